@@ -1,0 +1,45 @@
+// MerlinToSPP: reads the XML record that the head-control program of Merlin
+// and Orion heads writes, and turns it with the user's photographs into the
+// panorama description it derives from.
+#pragma once
+
+#include "StructuredPanoramaProperties.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class MerlinToSPP : public StructuredPanoramaProperties
+{
+public:
+    MerlinToSPP();
+
+    /// Reads the record at fileName into the members below (the description's
+    /// own fields are not touched). Returns false when the file cannot be
+    /// opened or is not well-formed XML; the members then keep their reset
+    /// values. Missing elements are never errors.
+    bool parse(const QString& fileName);
+
+    /// Appends stacks, angles (radians), focal length, lens and links to the
+    /// description. images: the photographs in shooting order. focalLength:
+    /// millimetres, negative to take the record's. lens: LensUnknown to take
+    /// the record's. Expects m_nbPicts >= 1. Run once on a freshly parsed record.
+    void generateSPP(const QStringList& images, double focalLength, LensModel lens);
+
+    /// The recorded shots, in file order.
+    QVector<ShootData> m_shoots;
+    QString m_title;
+    QString m_gps;
+    QString m_comment;
+    /// Millimetres, multiplied by the sensor coefficient; -1.0 without a lens
+    /// element, 0 with a lens element that has no focal.
+    double m_xmlFocal = -1.0;
+    /// Crop coefficient; 1.0 when absent or not a number.
+    double m_sensorCoef = 1.0;
+    /// Pictures per bracket; -1 without a bracketing element.
+    qint32 m_nbPicts = -1;
+    /// A LensModel value: 1 when the record says fisheye, else 0.
+    qint32 m_xmlLensType = 0;
+    /// The camera was mounted in portrait orientation.
+    bool m_portrait = false;
+};

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# The test command: installs what is missing, configures, builds and runs every
+# test suite three times over:
+#   1. an optimised build with debug information (also builds the benchmarks);
+#   2. the same suites under AddressSanitizer and UndefinedBehaviorSanitizer;
+#   3. the threaded suites (label "thread") under ThreadSanitizer;
+# then the fuzz targets for a bounded time each, when clang's fuzzer runtime is there.
+#
+# ZPH_STAGES limits the run to some stages, e.g. ZPH_STAGES="release asan".
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+cd "$root"
+
+stages=${ZPH_STAGES:-"release asan tsan fuzz"}
+jobs=$(nproc)
+
+"$root/scripts/setup.sh"
+
+has_stage() { [[ " $stages " == *" $1 "* ]]; }
+
+configure_and_build() {
+  local dir=$1; shift
+  cmake -S "$root" -B "$dir" -G Ninja "$@" > "$dir.configure.log" 2>&1 || { cat "$dir.configure.log"; return 1; }
+  cmake --build "$dir" -j "$jobs"
+}
+
+mkdir -p build
+
+if has_stage release; then
+  echo "== release build and tests"
+  configure_and_build build/release -DCMAKE_BUILD_TYPE=RelWithDebInfo
+  ctest --test-dir build/release --output-on-failure -j "$jobs"
+fi
+
+if has_stage asan; then
+  echo "== AddressSanitizer + UndefinedBehaviorSanitizer build and tests"
+  configure_and_build build/asan -DCMAKE_BUILD_TYPE=Debug -DZPH_SANITIZE="address;undefined" -DZPH_BUILD_BENCHMARKS=OFF
+  ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:strict_string_checks=1:detect_stack_use_after_return=1" \
+  LSAN_OPTIONS="suppressions=$root/tests/sanitizers/lsan.supp:print_suppressions=0" \
+  UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1" \
+    ctest --test-dir build/asan --output-on-failure -j "$jobs" -LE nosan
+fi
+
+if has_stage tsan; then
+  echo "== ThreadSanitizer build and threaded tests"
+  configure_and_build build/tsan -DCMAKE_BUILD_TYPE=Debug -DZPH_SANITIZE=thread -DZPH_BUILD_BENCHMARKS=OFF
+  TSAN_OPTIONS="suppressions=$root/tests/sanitizers/tsan.supp:halt_on_error=1:second_deadlock_stack=1" \
+    ctest --test-dir build/tsan --output-on-failure -j "$jobs" -L thread
+fi
+
+if has_stage fuzz && [ -x "$root/scripts/fuzz.sh" ]; then
+  echo "== fuzz targets, bounded time each"
+  "$root/scripts/fuzz.sh" --ci
+fi
+
+echo "== all stages passed: $stages"
