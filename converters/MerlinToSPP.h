@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QVector>
 
+class QDomElement;
+
 class MerlinToSPP : public StructuredPanoramaProperties
 {
 public:
@@ -16,14 +18,17 @@ public:
 
     /// Reads the record at fileName into the members below (the description's
     /// own fields are not touched). Returns false when the file cannot be
-    /// opened or is not well-formed XML; the members then keep their reset
+    /// opened or is not well-formed XML, and also refuses files over 16 MiB and
+    /// documents that declare entities; the members then keep their reset
     /// values. Missing elements are never errors.
     bool parse(const QString& fileName);
 
     /// Appends stacks, angles (radians), focal length, lens and links to the
     /// description. images: the photographs in shooting order. focalLength:
     /// millimetres, negative to take the record's. lens: LensUnknown to take
-    /// the record's. Expects m_nbPicts >= 1. Run once on a freshly parsed record.
+    /// the record's. Expects m_nbPicts >= 1 (a smaller count is read as 1).
+    /// Stacks past the last recorded shot get no links. Run once on a freshly
+    /// parsed record.
     void generateSPP(const QStringList& images, double focalLength, LensModel lens);
 
     /// The recorded shots, in file order.
@@ -42,4 +47,10 @@ public:
     qint32 m_xmlLensType = 0;
     /// The camera was mounted in portrait orientation.
     bool m_portrait = false;
+
+private:
+    void readShots(const QDomElement& shoot);
+    void readHeader(const QDomElement& header);
+    /// Links between the first s stacks, each placed by its first shot.
+    void appendLinks(int stackCount, int bracket, double focal);
 };
