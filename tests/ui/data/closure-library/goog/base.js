@@ -1,0 +1,3 @@
+// A stand-in for the JavaScript library's entry file, for tests.
+var goog = goog || {};
+goog.provide = function(name) { return name; };
