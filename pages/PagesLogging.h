@@ -1,0 +1,6 @@
+// The wizard pages' logging category, "zph.pages".
+#pragma once
+
+#include <QLoggingCategory>
+
+Q_DECLARE_LOGGING_CATEGORY(lcPages)
