@@ -1,0 +1,5 @@
+#include "ZClaussImport.h"
+
+ZClaussImport::ZClaussImport(QObject* parent) : ZImportPlugin(parent) { }
+
+ZClaussImport::~ZClaussImport() = default;

@@ -1,0 +1,5 @@
+#include "ZGigapanImport.h"
+
+ZGigapanImport::ZGigapanImport(QObject* parent) : ZImportPlugin(parent) { }
+
+ZGigapanImport::~ZGigapanImport() = default;

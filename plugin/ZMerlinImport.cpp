@@ -1,0 +1,5 @@
+#include "ZMerlinImport.h"
+
+ZMerlinImport::ZMerlinImport(QObject* parent) : ZImportPlugin(parent) { }
+
+ZMerlinImport::~ZMerlinImport() = default;

@@ -1,0 +1,864 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>Library</name>
+    <message>
+        <location filename="../Library.cpp" line="+83"/>
+        <source>Comment</source>
+        <translation>Комментарий</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPClauss</name>
+    <message>
+        <location filename="../../pages/UIWPClauss.cpp" line="+81"/>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Error parse file:%1</source>
+        <translation>Ошибка разбора файла: %1</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Select the preset file and/or images</source>
+        <translation>Выбор файла предустановки и/или снимков</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <location line="+2"/>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPClaussClass</name>
+    <message>
+        <location filename="../../pages/UIWPClauss.ui" line="+20"/>
+        <source>Clauss panohead</source>
+        <translation>Панорамная головка Clauss</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Clauss panohead import</source>
+        <translation>Импорт с панорамной головки Clauss</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&lt;a href=&quot;https://zelmo.example/panohead/heads/clauss&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Clauss&lt;/span&gt;&lt;/a&gt; provides special equipment for panoramic photography and VR applications.</source>
+        <translation>&lt;a href=&quot;https://zelmo.example/panohead/heads/clauss&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Clauss&lt;/span&gt;&lt;/a&gt; выпускает специальное оборудование для панорамной съёмки и VR-приложений.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Script file:</source>
+        <translation>Файл сценария:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+104"/>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <location line="-91"/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Number of shoot:</source>
+        <translation>Число кадров:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+35"/>
+        <location line="+14"/>
+        <location line="+48"/>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+    <message>
+        <location line="-69"/>
+        <source>Theta:</source>
+        <translation>Тета:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Phi:</source>
+        <translation>Фи:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Inverse Y coordinates</source>
+        <translation>Инвертировать координаты Y</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Images:</source>
+        <translation>Снимки:</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Number of image:</source>
+        <translation>Число снимков:</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Options</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Auto detection</source>
+        <translation>Автоматический поиск</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Clean wrong link</source>
+        <translation>Удалять ошибочные связи</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Skip optimization</source>
+        <translation>Пропустить оптимизацию</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Guided optimization</source>
+        <translation>Управляемая оптимизация</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPGigapan</name>
+    <message>
+        <location filename="../../pages/UIWPGigapan.cpp" line="+114"/>
+        <source>images in </source>
+        <translation>снимков в </translation>
+    </message>
+</context>
+<context>
+    <name>UIWPGigapanClass</name>
+    <message>
+        <location filename="../../pages/UIWPGigapan.ui" line="+20"/>
+        <source>UIWPGigapan</source>
+        <translation>UIWPGigapan</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Gigapan panorama import</source>
+        <translation>Импорт панорамы Gigapan</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&lt;a href=&quot;https://zelmo.example/panohead/heads/gigapan&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Gigapan&lt;/span&gt;&lt;/a&gt; allows users to upload, share, and explore brilliant gigapixel+ panoramas from around the globe.</source>
+        <translation>&lt;a href=&quot;https://zelmo.example/panohead/heads/gigapan&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Gigapan&lt;/span&gt;&lt;/a&gt; позволяет загружать, публиковать и изучать великолепные гигапиксельные панорамы со всего мира.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Images :</source>
+        <translation>Снимки:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source># Images in</source>
+        <translation># снимков в</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>rows and</source>
+        <translation>рядах и</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>columns.</source>
+        <translation>столбцах.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Ignore N files </source>
+        <translation>Пропустить N файлов </translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Nb image per location ( bracketing )</source>
+        <translation>Снимков на позицию (брекетинг)</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <source>Shoot layout</source>
+        <translation>Схема съёмки</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Columns: to left</source>
+        <translation>Столбцы: справа налево</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Columns (default)</source>
+        <translation>Столбцы (по умолчанию)</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Rows: upward</source>
+        <translation>Ряды: снизу вверх</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Rows: downward</source>
+        <translation>Ряды: сверху вниз</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Layout</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Shoot setup</source>
+        <translation>Съёмка</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Force 360° panorama</source>
+        <translation>Считать панорамой 360°</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Overlapping</source>
+        <translation>Перекрытие</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Stack</source>
+        <translation>Стек</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Detect links in:</source>
+        <translation>Искать связи в:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The reference level</source>
+        <translation>опорном уровне</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>All stack levels</source>
+        <translation>всех уровнях стека</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>For a stack:</source>
+        <translation>Внутри стека:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Use hard links</source>
+        <translation>Использовать жёсткие связи</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Detect control points</source>
+        <translation>Искать контрольные точки</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Detection options</source>
+        <translation>Параметры поиска</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Auto detection</source>
+        <translation>Автоматический поиск</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Clean wrong link</source>
+        <translation>Удалять ошибочные связи</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Skip optimization</source>
+        <translation>Пропустить оптимизацию</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPMerlinClass</name>
+    <message>
+        <location filename="../../pages/UIWPMerlin.ui" line="+20"/>
+        <source>Papywizard panohead control software</source>
+        <translation>Papywizard — программа управления панорамными головками</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Papywizard import</source>
+        <translation>Импорт Papywizard</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&lt;a href=&quot;https://zelmo.example/panohead/heads/papywizard&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Papywizard&lt;/span&gt;&lt;/a&gt; is a free project to drive Merlin/Orion panorama heads. The XML file format is open and used by a wide range of motorized panorama heads.</source>
+        <translation>&lt;a href=&quot;https://zelmo.example/panohead/heads/papywizard&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;Papywizard&lt;/span&gt;&lt;/a&gt; — свободный проект для управления головками Merlin/Orion. Его открытый формат XML поддерживают многие моторизованные головки.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>XML:</source>
+        <translation>XML:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+125"/>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <location line="-112"/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+125"/>
+        <source>Number of images:</source>
+        <translation>Число снимков:</translation>
+    </message>
+    <message>
+        <location line="-118"/>
+        <location line="+42"/>
+        <location line="+14"/>
+        <location line="+14"/>
+        <location line="+14"/>
+        <location line="+41"/>
+        <location line="+21"/>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+    <message>
+        <location line="-111"/>
+        <source>Yaw:</source>
+        <translation>Рыскание:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Pitch:</source>
+        <translation>Тангаж:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Bracketing:</source>
+        <translation>Брекетинг:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>XML focal:</source>
+        <translation>Фокус XML:</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Images:</source>
+        <translation>Снимки:</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Image focal:</source>
+        <translation>Фокус снимков:</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Shoot setup</source>
+        <translation>Съёмка</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Inverse Y coordinates</source>
+        <translation>Инвертировать координаты Y</translation>
+    </message>
+    <message>
+        <location line="+50"/>
+        <source>Focal length:</source>
+        <translation>Фокусное расстояние:</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Lens Type:</source>
+        <translation>Тип объектива:</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Use XML information</source>
+        <translation>Использовать данные XML</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Use image information</source>
+        <translation>Использовать данные снимков</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Stack</source>
+        <translation>Стек</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Detect links in:</source>
+        <translation>Искать связи в:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The reference level</source>
+        <translation>опорном уровне</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>All stack levels</source>
+        <translation>всех уровнях стека</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>For a stack:</source>
+        <translation>Внутри стека:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Use hard links</source>
+        <translation>Использовать жёсткие связи</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Detect control points</source>
+        <translation>Искать контрольные точки</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Detection options</source>
+        <translation>Параметры поиска</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Auto detection</source>
+        <translation>Автоматический поиск</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Clean wrong link</source>
+        <translation>Удалять ошибочные связи</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Skip optimization</source>
+        <translation>Пропустить оптимизацию</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Use recorded location</source>
+        <translation>Использовать записанное положение</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Header details</source>
+        <translation>Данные заголовка</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Title:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>GPS:</source>
+        <translation>GPS:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Comment:</source>
+        <translation>Комментарий:</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPPage</name>
+    <message>
+        <location filename="../../pages/UIWPPage.cpp" line="+90"/>
+        <source>Standard</source>
+        <translation>Обычный</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Fisheye</source>
+        <translation>«Рыбий глаз»</translation>
+    </message>
+    <message>
+        <location line="+76"/>
+        <source>All Files (*.*)</source>
+        <translation>Все файлы (*.*)</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Select images</source>
+        <translation>Выбор снимков</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPVRDrive2Class</name>
+    <message>
+        <location filename="../../pages/UIWPVRDrive2.ui" line="+20"/>
+        <source>VR Drive II import plugin</source>
+        <translation>Модуль импорта VR Drive II</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>VR Drive 2</source>
+        <translation>VR Drive 2</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The &lt;a href=&quot;https://zelmo.example/panohead/heads/vrdrive2&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;VR Drive 2&lt;/span&gt;&lt;/a&gt; motorized panoramic head writes its shooting as an XML preset; its bracketed shots become HDR-ready stacks.</source>
+        <translation>Моторизованная головка &lt;a href=&quot;https://zelmo.example/panohead/heads/vrdrive2&quot;&gt;&lt;span style=&quot; text-decoration: underline; color:#DCDCDC;&quot;&gt;VR Drive 2&lt;/span&gt;&lt;/a&gt; записывает съёмку как XML-предустановку; серии с брекетингом становятся стеками для HDR.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Images:</source>
+        <translation>Снимки:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+58"/>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <location line="-45"/>
+        <location line="+65"/>
+        <source>Number of images:</source>
+        <translation>Число снимков:</translation>
+    </message>
+    <message>
+        <location line="-58"/>
+        <location line="+14"/>
+        <location line="+51"/>
+        <location line="+14"/>
+        <location line="+14"/>
+        <location line="+14"/>
+        <location line="+14"/>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+    <message>
+        <location line="-114"/>
+        <source>Image focal:</source>
+        <translation>Фокус снимков:</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>XML:</source>
+        <translation>XML:</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Yaw:</source>
+        <translation>Рыскание:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Pitch:</source>
+        <translation>Тангаж:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Bracketing:</source>
+        <translation>Брекетинг:</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>XML focal:</source>
+        <translation>Фокус XML:</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Output:</source>
+        <translation>Вывод:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>8-bits / 16-bits tonemapped</source>
+        <translation>8/16 бит, тонмаппинг</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>32-bits HDR radiance</source>
+        <translation>32 бита HDR Radiance</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>TextLabel</source>
+        <translation>TextLabel</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Shoot setup</source>
+        <translation>Съёмка</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Inverse Y coordinates</source>
+        <translation>Инвертировать координаты Y</translation>
+    </message>
+    <message>
+        <location line="+50"/>
+        <source>Focal length:</source>
+        <translation>Фокусное расстояние:</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Lens Type:</source>
+        <translation>Тип объектива:</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Use XML information</source>
+        <translation>Использовать данные XML</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Use image information</source>
+        <translation>Использовать данные снимков</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Stack</source>
+        <translation>Стек</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Detect links in:</source>
+        <translation>Искать связи в:</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The reference level</source>
+        <translation>опорном уровне</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>All stack levels</source>
+        <translation>всех уровнях стека</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>For a stack:</source>
+        <translation>Внутри стека:</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Use hard links</source>
+        <translation>Использовать жёсткие связи</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Detect control points</source>
+        <translation>Искать контрольные точки</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Detection options</source>
+        <translation>Параметры поиска</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Auto detection</source>
+        <translation>Автоматический поиск</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Clean wrong link</source>
+        <translation>Удалять ошибочные связи</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Skip optimization</source>
+        <translation>Пропустить оптимизацию</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Use recorded location</source>
+        <translation>Использовать записанное положение</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+</context>
+<context>
+    <name>UIWPXmlPage</name>
+    <message>
+        <location filename="../../pages/UIWPXmlPage.cpp" line="+102"/>
+        <source>All Files (*.*)</source>
+        <translation>Все файлы (*.*)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Select the preset file and/or images</source>
+        <translation>Выбор файла предустановки и/или снимков</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>All Files (*.*);;XML files (*.xml)</source>
+        <translation>Все файлы (*.*);;Файлы XML (*.xml)</translation>
+    </message>
+    <message>
+        <location line="+154"/>
+        <location line="+2"/>
+        <location line="+3"/>
+        <location line="+2"/>
+        <location line="+5"/>
+        <location line="+4"/>
+        <source>N/A</source>
+        <translation>н/д</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Bracketing used in XML, should be multiple of that number</source>
+        <translation>В XML используется брекетинг: число снимков должно быть ему кратно</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Not the same as in XML fil</source>
+        <translation>Не совпадает с XML-файлом</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Focal Length difference between EXIF and XML</source>
+        <translation>Фокусное расстояние в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Focal length difference between EXIF and XML</source>
+        <translation>Фокусное расстояние в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Lens type difference between EXIF and XML</source>
+        <translation>Тип объектива в EXIF и XML различается</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Papywizard XML has bracketing and the number of images isn&apos;t a multiple of this number of brackets.</source>
+        <translation>В XML Papywizard задан брекетинг, а число снимков не кратно числу кадров в серии.</translation>
+    </message>
+</context>
+<context>
+    <name>ZClaussImport</name>
+    <message>
+        <location filename="../ZImportDescriptor.h" line="+28"/>
+        <source>Clauss Rodeon import plugin</source>
+        <translation>Модуль импорта Clauss Rodeon</translation>
+    </message>
+</context>
+<context>
+    <name>ZGigapanImport</name>
+    <message>
+        <location line="+9"/>
+        <source>Gigapan import plugin</source>
+        <translation>Модуль импорта Gigapan</translation>
+    </message>
+</context>
+<context>
+    <name>ZMerlinImport</name>
+    <message>
+        <location line="+9"/>
+        <source>Papywizard XML import plugin</source>
+        <translation>Модуль импорта XML Papywizard</translation>
+    </message>
+</context>
+<context>
+    <name>ZVRDrive2Import</name>
+    <message>
+        <location line="+9"/>
+        <source>VRDrive2 XML import plugin</source>
+        <translation>Модуль импорта XML VRDrive2</translation>
+    </message>
+</context>
+</TS>
