@@ -1,0 +1,13 @@
+// ImageSize: the pixel size of a finished panorama file: TIFF (read from its
+// header, which Qt cannot read without an extra plug-in) or any format Qt reads.
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+class ImageSize
+{
+public:
+    /// Invalid when the file cannot be read or is no picture.
+    static QSize read(const QString& path);
+};

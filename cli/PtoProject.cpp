@@ -1,0 +1,477 @@
+#include "PtoProject.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QSaveFile>
+#include <QTextStream>
+
+#include <cmath>
+
+namespace {
+
+bool isLetter(QChar c)
+{
+    return (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+        || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
+}
+
+/// Splits a line into blank-separated tokens; a token beginning with a letter
+/// and a double quote (n"...") runs to the closing quote, blanks included.
+QStringList tokens(const QString& line, bool* ok)
+{
+    QStringList result;
+    *ok = true;
+    int i = 0;
+    const int n = line.size();
+    while (i < n) {
+        while (i < n && line[i].isSpace())
+            ++i;
+        if (i >= n)
+            break;
+        const int start = i;
+        if (i + 1 < n && isLetter(line[i]) && line[i + 1] == QLatin1Char('"')) {
+            const int close = line.indexOf(QLatin1Char('"'), i + 2);
+            if (close < 0) {
+                *ok = false;
+                return result;
+            }
+            i = close + 1;
+        } else {
+            while (i < n && !line[i].isSpace())
+                ++i;
+        }
+        result << line.mid(start, i - start);
+    }
+    return result;
+}
+
+/// The leading letters of a token and what follows them.
+void splitToken(const QString& token, QString* name, QString* rest)
+{
+    int i = 0;
+    while (i < token.size() && isLetter(token[i]))
+        ++i;
+    *name = token.left(i);
+    *rest = token.mid(i);
+}
+
+bool isLine(const QString& line, char kind)
+{
+    return line.size() >= 1 && line[0] == QLatin1Char(kind)
+        && (line.size() == 1 || line[1].isSpace());
+}
+
+/// The n and N image numbers of a c line.
+bool parseControlPoint(const QString& line, PtoProject::ControlPoint* point)
+{
+    bool ok = false;
+    const QStringList parts = tokens(line, &ok);
+    if (!ok)
+        return false;
+    point->first = point->second = -1;
+    point->line = line;
+    for (const QString& t : parts.mid(1)) {
+        bool number = false;
+        if (t.startsWith(QLatin1Char('n')) && point->first < 0)
+            point->first = t.mid(1).toInt(&number);
+        else if (t.startsWith(QLatin1Char('N')) && point->second < 0)
+            point->second = t.mid(1).toInt(&number);
+        else
+            continue;
+        if (!number)
+            return false;
+    }
+    return point->first >= 0 && point->second >= 0;
+}
+
+} // namespace
+
+bool PtoProject::read(const QString& path, QString* error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("cannot read %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    QString reason;
+    if (!parse(QString::fromUtf8(file.readAll()), &reason)) {
+        if (error)
+            *error = QStringLiteral("%1 is not a Hugin project: %2").arg(path, reason);
+        return false;
+    }
+    return true;
+}
+
+bool PtoProject::parseImage(const QString& line, Image* image, QString* error)
+{
+    bool ok = false;
+    const QStringList parts = tokens(line, &ok);
+    if (!ok) {
+        *error = QStringLiteral("an image name has no closing quote");
+        return false;
+    }
+    image->variables.clear();
+    image->name.clear();
+    bool named = false;
+    for (const QString& token : parts.mid(1)) {
+        if (token.size() >= 2 && token[0] == QLatin1Char('n') && token[1] == QLatin1Char('"')) {
+            image->name = token.mid(2, token.size() - 3);
+            named = true;
+            continue;
+        }
+        Variable v;
+        QString rest;
+        splitToken(token, &v.name, &rest);
+        if (v.name.isEmpty()) {
+            *error = QStringLiteral("the image variable \"%1\" has no name").arg(token);
+            return false;
+        }
+        if (rest.startsWith(QLatin1Char('='))) {
+            bool number = false;
+            const int target = rest.mid(1).toInt(&number);
+            if (!number || target < 0) {
+                *error = QStringLiteral("the link \"%1\" names no image").arg(token);
+                return false;
+            }
+            v.linked = true;
+            v.value = QString::number(target);
+        } else {
+            v.value = rest;
+        }
+        image->variables.append(v);
+    }
+    if (!named) {
+        *error = QStringLiteral("an image has no name");
+        return false;
+    }
+    return true;
+}
+
+bool PtoProject::parse(const QString& text, QString* error)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        if (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+    }
+    while (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    QVector<Image> images;
+    for (int i = 0; i < lines.size(); ++i) {
+        if (!isLine(lines[i], 'i'))
+            continue;
+        Image image;
+        image.line = i;
+        QString reason;
+        if (!parseImage(lines[i], &image, &reason)) {
+            if (error)
+                *error = QStringLiteral("line %1: %2").arg(i + 1).arg(reason);
+            return false;
+        }
+        images.append(image);
+    }
+    for (const Image& image : images) {
+        for (const Variable& v : image.variables) {
+            if (v.linked && v.value.toInt() >= images.size()) {
+                if (error)
+                    *error = QStringLiteral("line %1: \"%2=%3\" links to an image that does "
+                                            "not exist")
+                                 .arg(image.line + 1)
+                                 .arg(v.name, v.value);
+                return false;
+            }
+        }
+    }
+    for (int i = 0; i < lines.size(); ++i) {
+        if (!isLine(lines[i], 'c'))
+            continue;
+        ControlPoint point;
+        if (!parseControlPoint(lines[i], &point) || point.first >= images.size()
+            || point.second >= images.size()) {
+            if (error)
+                *error
+                    = QStringLiteral("line %1: a control point names no existing image").arg(i + 1);
+            return false;
+        }
+    }
+    m_lines = lines;
+    m_images = images;
+    return true;
+}
+
+QString PtoProject::text() const
+{
+    return m_lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+bool PtoProject::write(const QString& path, QString* error) const
+{
+    QSaveFile file(path);
+    const QByteArray bytes = text().toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        if (error)
+            *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    return true;
+}
+
+QString PtoProject::imageName(int image) const
+{
+    return image >= 0 && image < m_images.size() ? m_images[image].name : QString();
+}
+
+const PtoProject::Variable* PtoProject::variable(int image, const QString& name) const
+{
+    // A chain of links is at most as long as there are images.
+    for (int step = 0; step <= m_images.size(); ++step) {
+        if (image < 0 || image >= m_images.size())
+            return nullptr;
+        const Variable* found = nullptr;
+        for (const Variable& v : m_images[image].variables) {
+            if (v.name == name) {
+                found = &v;
+                break;
+            }
+        }
+        if (!found || !found->linked)
+            return found;
+        image = found->value.toInt();
+    }
+    return nullptr;
+}
+
+QString PtoProject::value(int image, const QString& name) const
+{
+    const Variable* v = variable(image, name);
+    return v ? v->value : QString();
+}
+
+double PtoProject::number(int image, const QString& name, bool* ok) const
+{
+    bool converted = false;
+    const double d = value(image, name).toDouble(&converted);
+    *ok = converted && std::isfinite(d);
+    return *ok ? d : 0.0;
+}
+
+QVector<PtoProject::ControlPoint> PtoProject::controlPoints() const
+{
+    QVector<ControlPoint> points;
+    for (const QString& line : m_lines) {
+        ControlPoint point;
+        if (isLine(line, 'c') && parseControlPoint(line, &point))
+            points.append(point);
+    }
+    return points;
+}
+
+void PtoProject::setControlPoints(const QVector<ControlPoint>& points)
+{
+    QStringList lines;
+    for (const QString& line : m_lines) {
+        if (!isLine(line, 'c'))
+            lines << line;
+    }
+    for (const ControlPoint& point : points)
+        lines << point.line;
+    // The images' line numbers move when c lines stood before them.
+    QString ignored;
+    parse(lines.join(QLatin1Char('\n')), &ignored);
+}
+
+QSize PtoProject::panoramaSize() const
+{
+    for (const QString& line : m_lines) {
+        if (!isLine(line, 'p'))
+            continue;
+        bool ok = false;
+        int w = -1, h = -1;
+        for (const QString& t : tokens(line, &ok).mid(1)) {
+            bool number = false;
+            if (t.startsWith(QLatin1Char('w'))) {
+                w = t.mid(1).toInt(&number);
+                if (!number)
+                    w = -1;
+            } else if (t.startsWith(QLatin1Char('h'))) {
+                h = t.mid(1).toInt(&number);
+                if (!number)
+                    h = -1;
+            }
+        }
+        return QSize(w, h);
+    }
+    return QSize();
+}
+
+QRect PtoProject::crop() const
+{
+    for (const QString& line : m_lines) {
+        if (!isLine(line, 'p'))
+            continue;
+        bool ok = false;
+        for (const QString& t : tokens(line, &ok).mid(1)) {
+            if (!t.startsWith(QLatin1Char('S')))
+                continue;
+            const QStringList parts = t.mid(1).split(QLatin1Char(','));
+            if (parts.size() != 4)
+                return QRect();
+            int v[4];
+            for (int i = 0; i < 4; ++i) {
+                bool number = false;
+                v[i] = parts[i].toInt(&number);
+                if (!number)
+                    return QRect();
+            }
+            // left, right, top, bottom; right and bottom are exclusive.
+            if (v[1] <= v[0] || v[3] <= v[2])
+                return QRect();
+            return QRect(v[0], v[2], v[1] - v[0], v[3] - v[2]);
+        }
+    }
+    return QRect();
+}
+
+PtoProject::ControlPoint PtoProject::renumbered(
+    const ControlPoint& point, const QVector<int>& mapping)
+{
+    ControlPoint result = point;
+    if (point.first < 0 || point.first >= mapping.size() || point.second < 0
+        || point.second >= mapping.size())
+        return result;
+    result.first = mapping[point.first];
+    result.second = mapping[point.second];
+    bool ok = false;
+    QStringList parts = tokens(point.line, &ok);
+    bool firstDone = false, secondDone = false;
+    for (QString& t : parts) {
+        if (!firstDone && t.startsWith(QLatin1Char('n'))) {
+            t = QStringLiteral("n%1").arg(result.first);
+            firstDone = true;
+        } else if (!secondDone && t.startsWith(QLatin1Char('N'))) {
+            t = QStringLiteral("N%1").arg(result.second);
+            secondDone = true;
+        }
+    }
+    result.line = parts.join(QLatin1Char(' '));
+    return result;
+}
+
+QString PtoProject::imageLine(const Image& image)
+{
+    QStringList parts;
+    parts << QStringLiteral("i");
+    for (const Variable& v : image.variables)
+        parts << v.name + (v.linked ? QStringLiteral("=") : QString()) + v.value;
+    parts << QStringLiteral("n\"%1\"").arg(image.name);
+    return parts.join(QLatin1Char(' '));
+}
+
+void PtoProject::makeImageNamesAbsolute(const QString& folder)
+{
+    const QDir base(folder);
+    for (Image& image : m_images) {
+        if (QDir::isAbsolutePath(image.name))
+            continue;
+        image.name = QDir::cleanPath(base.absoluteFilePath(image.name));
+        m_lines[image.line] = imageLine(image);
+    }
+}
+
+PtoProject PtoProject::subset(const QVector<int>& images) const
+{
+    // Old index -> new index, -1 when dropped.
+    QVector<int> mapping(m_images.size(), -1);
+    for (int k = 0; k < images.size(); ++k) {
+        if (images[k] >= 0 && images[k] < m_images.size())
+            mapping[images[k]] = k;
+    }
+    // A "#-hugin" line right before an i line belongs to that image.
+    QHash<int, int> imageOfLine;
+    for (int i = 0; i < m_images.size(); ++i)
+        imageOfLine.insert(m_images[i].line, i);
+    const auto ownedComment = [&](int line) {
+        return m_lines[line].startsWith(QLatin1String("#-hugin")) && imageOfLine.contains(line + 1);
+    };
+
+    QStringList lines;
+    bool imagesWritten = false;
+    for (int i = 0; i < m_lines.size(); ++i) {
+        const QString& line = m_lines[i];
+        if (ownedComment(i))
+            continue;
+        if (isLine(line, 'i')) {
+            if (imagesWritten)
+                continue;
+            imagesWritten = true;
+            for (int k = 0; k < images.size(); ++k) {
+                const int old = images[k];
+                if (old < 0 || old >= m_images.size())
+                    continue;
+                const int owner = m_images[old].line;
+                if (owner > 0 && m_lines[owner - 1].startsWith(QLatin1String("#-hugin")))
+                    lines << m_lines[owner - 1];
+                Image image = m_images[old];
+                for (Variable& v : image.variables) {
+                    if (!v.linked)
+                        continue;
+                    const int target = mapping[v.value.toInt()];
+                    if (target >= 0) {
+                        v.value = QString::number(target);
+                    } else {
+                        v.value = value(old, v.name);
+                        v.linked = false;
+                    }
+                }
+                lines << imageLine(image);
+            }
+            continue;
+        }
+        if (isLine(line, 'c')) {
+            ControlPoint point;
+            if (parseControlPoint(line, &point) && mapping[point.first] >= 0
+                && mapping[point.second] >= 0)
+                lines << renumbered(point, mapping).line;
+            continue;
+        }
+        if (isLine(line, 'k')) {
+            bool ok = false;
+            QStringList parts = tokens(line, &ok);
+            bool keep = true;
+            for (QString& t : parts) {
+                if (t.startsWith(QLatin1Char('i')) && t != QLatin1String("i")) {
+                    const int old = t.mid(1).toInt(&ok);
+                    keep = ok && old >= 0 && old < mapping.size() && mapping[old] >= 0;
+                    if (keep)
+                        t = QStringLiteral("i%1").arg(mapping[old]);
+                    break;
+                }
+            }
+            if (keep)
+                lines << parts.join(QLatin1Char(' '));
+            continue;
+        }
+        if (isLine(line, 'v') && line.trimmed() != QLatin1String("v")) {
+            bool ok = false;
+            QStringList kept;
+            for (const QString& t : tokens(line, &ok).mid(1)) {
+                QString name, rest;
+                splitToken(t, &name, &rest);
+                bool number = false;
+                const int old = rest.toInt(&number);
+                if (number && old >= 0 && old < mapping.size() && mapping[old] >= 0)
+                    kept << name + QString::number(mapping[old]);
+            }
+            if (!kept.isEmpty())
+                lines << QStringLiteral("v ") + kept.join(QLatin1Char(' '));
+            continue;
+        }
+        lines << line;
+    }
+    PtoProject result;
+    QString ignored;
+    result.parse(lines.join(QLatin1Char('\n')), &ignored);
+    return result;
+}

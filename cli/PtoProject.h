@@ -1,0 +1,89 @@
+// PtoProject: a Hugin project file (.pto) as text lines, with what the stitch
+// needs to read and change in it: the images (names and variables, following
+// "=<image>" links), the control points, the panorama's size and crop, and a
+// project of some of the images only.
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class PtoProject
+{
+public:
+    struct ControlPoint
+    {
+        /// The two images, as the "n" and "N" fields of the c line.
+        int first = -1;
+        int second = -1;
+        /// The whole line, as read.
+        QString line;
+    };
+
+    /// Reads and parses path. False with a reason in *error.
+    bool read(const QString& path, QString* error);
+    /// Parses text: every line is kept; i lines must have a name (n"...") and
+    /// well-formed variables, c lines must name existing images.
+    bool parse(const QString& text, QString* error);
+    QString text() const;
+    bool write(const QString& path, QString* error) const;
+
+    int imageCount() const { return m_images.size(); }
+    /// The image's file name as written (n"..."), maybe relative.
+    QString imageName(int image) const;
+    /// The literal value of the image's variable, following "=<image>" links;
+    /// empty when the variable is absent or the links go round in a circle.
+    QString value(int image, const QString& variable) const;
+    /// value() as a number; false in *ok when absent or not a finite number.
+    double number(int image, const QString& variable, bool* ok) const;
+
+    QVector<ControlPoint> controlPoints() const;
+    /// Replaces every c line by these (after the images' lines).
+    void setControlPoints(const QVector<ControlPoint>& points);
+
+    /// The p line's w and h; invalid when missing.
+    QSize panoramaSize() const;
+    /// The p line's crop (S<left>,<right>,<top>,<bottom>) as a rectangle;
+    /// null when there is none.
+    QRect crop() const;
+
+    /// Rewrites every image name that is relative as an absolute path,
+    /// resolved from folder (the folder of the file the project came from),
+    /// so that the project can be written anywhere.
+    void makeImageNamesAbsolute(const QString& folder);
+
+    /// A project of the given images only (indices into this one, in the
+    /// order given), renumbered 0, 1, ...: links to a kept image follow it,
+    /// links to a dropped image become that image's literal value; control
+    /// points, masks and optimiser variables of dropped images are dropped.
+    PtoProject subset(const QVector<int>& images) const;
+
+    /// A control point of this project with its images renumbered: image i
+    /// becomes mapping[i].
+    static ControlPoint renumbered(const ControlPoint& point, const QVector<int>& mapping);
+
+private:
+    struct Variable
+    {
+        QString name;
+        /// The value text, or the linked image's index after "=".
+        QString value;
+        bool linked = false;
+    };
+    struct Image
+    {
+        /// Index of the i line in m_lines.
+        int line = -1;
+        QVector<Variable> variables;
+        QString name;
+    };
+
+    static bool parseImage(const QString& line, Image* image, QString* error);
+    static QString imageLine(const Image& image);
+    const Variable* variable(int image, const QString& name) const;
+
+    QStringList m_lines;
+    QVector<Image> m_images;
+};
