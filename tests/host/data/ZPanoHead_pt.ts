@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt">
+<context>
+    <name>Library</name>
+    <message>
+        <source>Comment</source>
+        <translation>Comentário (teste)</translation>
+    </message>
+</context>
+</TS>
