@@ -25,6 +25,9 @@ constexpr double kFrameDiagonal = 43.266615305567875;
 constexpr float kLinkFactor = 0.7f;
 /// Bytes read from a script at a time.
 constexpr qint64 kReadChunk = 1 << 20;
+/// A script holds a few dozen bytes per shot; one larger than this before its
+/// first NUL byte is not a script, and reading it whole would take gigabytes.
+constexpr int kMaxScriptBytes = 64 << 20;
 
 /// Degrees as stored in a shot to the record's radians.
 float toRadians(float degrees)
@@ -95,6 +98,10 @@ bool ClaussToSPP::parse(const QString& fileName)
                 break;
             bytes.append(chunk);
             nul = bytes.indexOf('\0', from);
+            if (nul < 0 && bytes.size() > kMaxScriptBytes) {
+                qCWarning(lcClauss) << fileName << "is too large for a script:" << file.size();
+                return false;
+            }
         }
         file.close();
         text = QString::fromUtf8(bytes.constData(), nul < 0 ? bytes.size() : nul);

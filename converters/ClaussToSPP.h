@@ -26,6 +26,7 @@ public:
     /// part of a value). Returns false when the file cannot be opened or when
     /// an angle value is not a number; reading still goes on to the end and
     /// the bad angle counts as 0. A script without shots is not an error.
+    /// A file of more than 64 MiB before its first NUL byte is refused (false).
     bool parse(const QString& fileName);
 
     /// Appends to the description one stack per path of files, the yaw and

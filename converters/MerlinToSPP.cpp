@@ -30,6 +30,9 @@ constexpr float kLinkFactor = 0.65f;
 /// (a tree costs tens of bytes per byte of tiny elements).
 constexpr qint64 kMaxRecordBytes = 16 * 1024 * 1024;
 
+/// Deepest nesting of elements a record may have; a record has five levels.
+constexpr int kMaxDepth = 256;
+
 /// Slack, in radians, that keeps the link pre-filters conservative: far above
 /// the rounding error of the distance (about 1e-8 at worst, near 0 and pi),
 /// far below any spacing that matters.
@@ -53,17 +56,25 @@ qint32 toInteger(const QString& text)
     return text.toInt(nullptr, 10);
 }
 
-/// Reads the prolog up to the root element. False when the document declares
-/// entities, or when the prolog is not well-formed.
+/// Reads the document as a stream, before the document tree is built. False
+/// when the document declares entities, when the prolog is not well-formed,
+/// or when elements nest deeper than kMaxDepth.
 ///
 /// The document tree expands internal entities itself, capped only per
 /// entity (4096 characters): a few hundred kilobytes referring to one large
 /// entity expand to gigabytes. A head's record never declares entities, so
 /// any document type declaration that declares one is refused, whether its
 /// entities refer to one another or not. External entities are never fetched.
-bool hasSafeProlog(QIODevice* device)
+///
+/// The tree's parser recurses once per level of nesting, so a document
+/// nested some ten thousand levels deep overflows the stack; a record is
+/// five levels deep. Other errors after the root element are left to the
+/// tree's parser, which decides what is well-formed.
+bool isSafeDocument(QIODevice* device)
 {
     QXmlStreamReader reader(device);
+    int depth = 0;
+    bool rootSeen = false;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::DTD:
@@ -74,13 +85,26 @@ bool hasSafeProlog(QIODevice* device)
             }
             break;
         case QXmlStreamReader::StartElement:
-            return true;
+            rootSeen = true;
+            if (++depth > kMaxDepth) {
+                qCDebug(lcMerlin) << "elements nested deeper than" << kMaxDepth << "; refused";
+                return false;
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        case QXmlStreamReader::Invalid:
+            if (rootSeen)
+                return true;
+            break;
         default:
             break;
         }
     }
-    qCDebug(lcMerlin) << "no root element:" << reader.errorString();
-    return false;
+    if (!rootSeen)
+        qCDebug(lcMerlin) << "no root element:" << reader.errorString();
+    return rootSeen;
 }
 
 /// Trimmed text of the first child element called name, or a null string.
@@ -129,7 +153,7 @@ bool MerlinToSPP::parse(const QString& fileName)
         qCDebug(lcMerlin) << fileName << "is too large for a record:" << file.size();
         return false;
     }
-    if (!hasSafeProlog(&file) || !file.reset())
+    if (!isSafeDocument(&file) || !file.reset())
         return false;
 
     QDomDocument document;
