@@ -11,8 +11,7 @@ class FuzzImageDef : public ZIImageDef
 {
 public:
     FuzzImageDef(float focalLength, float exposure)
-        : m_focalLength(focalLength)
-        , m_exposure(exposure)
+        : m_focalLength(focalLength), m_exposure(exposure)
     {
     }
 

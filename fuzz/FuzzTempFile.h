@@ -19,8 +19,8 @@ public:
     /// tag names the target; the process id keeps parallel jobs apart.
     explicit FuzzTempFile(const char* tag, const char* suffix = "")
     {
-        const QString dir
-            = QDir(QStringLiteral("/dev/shm")).exists() ? QStringLiteral("/dev/shm") : QDir::tempPath();
+        const QString dir = QDir(QStringLiteral("/dev/shm")).exists() ? QStringLiteral("/dev/shm")
+                                                                      : QDir::tempPath();
         m_path = QStringLiteral("%1/zph-fuzz-%2-%3%4")
                      .arg(dir, QString::fromLatin1(tag))
                      .arg(::getpid())

@@ -15,7 +15,7 @@ namespace {
 
 // Linking tests all pairs of photos; beyond this a run costs too much time
 // for a fuzzer and adds no new paths.
-constexpr int kMaxPhotos = 128;
+constexpr int kMaxPhotos = 32;
 
 // Focal lengths a host may report: none (0), ordinary ones, absurd ones.
 constexpr float kFocals[] = { 0.0f, 4.5f, 12.0f, 24.0f, 50.0f, 600.0f, 1e-30f, 3.4e38f };

@@ -37,9 +37,18 @@ double anyDouble(FuzzedDataProvider& in)
 QString anyPath(FuzzedDataProvider& in, int k)
 {
     static const char* const kNames[] = {
-        "/photos/IMG_%1.JPG", "/photos/with blank %1.jpg", "relative/%1.jpg", "/ph\xc3\xb6tos/\xe5\x86\x99%1.jpg",
-        "/photos/quote\"%1.jpg", "/photos/line\nbreak%1.jpg", "/photos/%1\ni n\"x.jpg\"", "/photos/#%1.jpg",
-        "/photos/tab\t%1.jpg", "%1", "/photos/../up/%1.jpg", "/photos/same.jpg",
+        "/photos/IMG_%1.JPG",
+        "/photos/with blank %1.jpg",
+        "relative/%1.jpg",
+        "/ph\xc3\xb6tos/\xe5\x86\x99%1.jpg",
+        "/photos/quote\"%1.jpg",
+        "/photos/line\nbreak%1.jpg",
+        "/photos/%1\ni n\"x.jpg\"",
+        "/photos/#%1.jpg",
+        "/photos/tab\t%1.jpg",
+        "%1",
+        "/photos/../up/%1.jpg",
+        "/photos/same.jpg",
     };
     const char* pattern = kNames[in.ConsumeIntegralInRange<size_t>(0, std::size(kNames) - 1)];
     return QString::fromUtf8(pattern).arg(k);
@@ -67,7 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         AuthorizedLink link;
         link.m_direction = in.ConsumeIntegralInRange(-1, 5);
         link.m_stackIndices = { in.ConsumeIntegralInRange(0, stacks - 1),
-                                in.ConsumeIntegralInRange(0, stacks - 1) };
+            in.ConsumeIntegralInRange(0, stacks - 1) };
         record.m_links << link;
     }
     for (QVector<float>* angles : { &record.m_yaw, &record.m_pitch, &record.m_roll }) {
@@ -85,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     // Positions: usually one per stack, now and then one short.
     const int positions = stacks - (in.ConsumeIntegralInRange(0, 9) == 0 ? 1 : 0);
     for (int s = 0; s < positions; ++s)
-        input.positions << StackPosition{ anyDouble(in), anyDouble(in), anyDouble(in) };
+        input.positions << StackPosition { anyDouble(in), anyDouble(in), anyDouble(in) };
 
     // What is known of each photograph; now and then one is missing.
     for (const QStringList& stack : qAsConst(record.m_stacks)) {
@@ -94,8 +103,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
                 continue;
             ImageInfo info;
             info.path = path;
-            info.pixelSize = QSize(in.ConsumeIntegralInRange(-2, 70000),
-                                   in.ConsumeIntegralInRange(-2, 70000));
+            info.pixelSize
+                = QSize(in.ConsumeIntegralInRange(-2, 70000), in.ConsumeIntegralInRange(-2, 70000));
             info.orientation = in.ConsumeIntegralInRange(0, 9);
             info.hasExposure = in.ConsumeBool();
             info.exposureValue = anyDouble(in);

@@ -34,7 +34,7 @@ void checkDefinition(const ImageDefinition& def)
     FUZZ_CHECK(!std::isnan(def.FocalLength()));
     const QImage thumb = def.ThumbnailImage();
     FUZZ_CHECK(thumb.width() <= ImageDefinition::ThumbnailSide
-               && thumb.height() <= ImageDefinition::ThumbnailSide);
+        && thumb.height() <= ImageDefinition::ThumbnailSide);
     // A definition stays small whatever the file declares.
     FUZZ_CHECK(def.MemoryFootprint() < 4 * 1024 * 1024);
     // Reading every figure must be safe, whatever the file said.
@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         FUZZ_CHECK(!full->ThumbnailImage().isNull());
         const QPixmap& pixmap = full->Thumbnail();
         FUZZ_CHECK(pixmap.width() <= ImageDefinition::ThumbnailSide
-                   && pixmap.height() <= ImageDefinition::ThumbnailSide);
+            && pixmap.height() <= ImageDefinition::ThumbnailSide);
     }
     return 0;
 }

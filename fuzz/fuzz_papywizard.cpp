@@ -103,12 +103,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     record.m_nbPicts = bracket;
 
     // The lens and focal length the page passes: chosen by the input's last byte.
-    static const struct {
+    static const struct
+    {
         double focal;
         LensModel lens;
     } kChoices[] = { { -1.0, LensUnknown }, { 24.0, LensStandard }, { 0.0, LensStandard },
-                     { 10.5, LensFisheye }, { -1.0, LensStandard }, { 1e-6, LensUnknown },
-                     { 1e9, LensStandard }, { 50.0, LensUnknown } };
+        { 10.5, LensFisheye }, { -1.0, LensStandard }, { 1e-6, LensUnknown }, { 1e9, LensStandard },
+        { 50.0, LensUnknown } };
     const auto& choice = kChoices[size ? data[size - 1] % 8 : 0];
     const LensModel expectedLens
         = choice.lens == LensUnknown ? LensModel(record.m_xmlLensType) : choice.lens;

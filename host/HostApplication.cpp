@@ -190,7 +190,7 @@ ZIImageDef* HostApplication::CreateImageDef(const QString& path)
     if (!def)
         return nullptr;
     ImageDefinition* result = def.get();
-    QMutexLocker lock(&m_imageDefsMutex);
+    const std::lock_guard<std::mutex> lock(m_imageDefsMutex);
     m_imageDefs.push_back(std::move(def));
     return result;
 }
@@ -199,14 +199,14 @@ void HostApplication::ReleaseImageDefinitions()
 {
     std::vector<std::unique_ptr<ImageDefinition>> doomed;
     {
-        QMutexLocker lock(&m_imageDefsMutex);
+        const std::lock_guard<std::mutex> lock(m_imageDefsMutex);
         doomed.swap(m_imageDefs);
     }
 }
 
 QList<const ImageDefinition*> HostApplication::ImageDefinitions() const
 {
-    QMutexLocker lock(&m_imageDefsMutex);
+    const std::lock_guard<std::mutex> lock(m_imageDefsMutex);
     QList<const ImageDefinition*> list;
     list.reserve(int(m_imageDefs.size()));
     for (const auto& def : m_imageDefs)
@@ -216,7 +216,7 @@ QList<const ImageDefinition*> HostApplication::ImageDefinitions() const
 
 int HostApplication::ImageDefinitionCount() const
 {
-    QMutexLocker lock(&m_imageDefsMutex);
+    const std::lock_guard<std::mutex> lock(m_imageDefsMutex);
     return int(m_imageDefs.size());
 }
 

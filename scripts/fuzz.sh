@@ -30,7 +30,7 @@ while [ $# -gt 0 ]; do
     --ci) ci=1 ;;
     --time) seconds=$2; shift ;;
     --runs) runs=$2; shift ;;
-    -h|--help) sed -n '2,19p' "$0"; exit 0 ;;
+    -h|--help) sed -n '2,17p' "$0"; exit 0 ;;
     fuzz_*) targets+=("$1") ;;
     *) echo "fuzz.sh: unknown argument $1" >&2; exit 2 ;;
   esac

@@ -22,7 +22,7 @@ public:
     /// head, then `count` bytes `fill`, then tail, with no line break unless
     /// the caller puts one in head or tail. False when the disk refuses.
     static bool writeStreamed(const QString& path, const QByteArray& head, char fill, qint64 count,
-                              const QByteArray& tail)
+        const QByteArray& tail)
     {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))

@@ -26,10 +26,7 @@ struct Entry
 class TiffWriter
 {
 public:
-    explicit TiffWriter(bool bigEndian)
-        : m_big(bigEndian)
-    {
-    }
+    explicit TiffWriter(bool bigEndian) : m_big(bigEndian) { }
 
     QByteArray u16(quint16 v) const
     {
@@ -69,7 +66,7 @@ public:
     // Appends the IFD at out's end (which must be its offset), recording the
     // entries' positions under prefix. Returns the position of its next pointer.
     int writeIfd(QByteArray& out, const std::vector<Entry>& entries, const QString& prefix,
-                 JpegFactory::Layout* layout) const
+        JpegFactory::Layout* layout) const
     {
         const int start = out.size();
         const int data = start + 2 + 12 * int(entries.size()) + 4;
@@ -191,13 +188,13 @@ QByteArray JpegFactory::exifSegment(const Exif& exif, Layout* layout)
     const int ifd0Next = w.writeIfd(tiff, ifd0, QStringLiteral("ifd0"), &local);
     local.at.insert(QStringLiteral("ifd0.next"), ifd0Next);
     Q_ASSERT(tiff.size() == subAt);
-    local.at.insert(QStringLiteral("exif.next"),
-                    w.writeIfd(tiff, sub, QStringLiteral("exif"), &local));
+    local.at.insert(
+        QStringLiteral("exif.next"), w.writeIfd(tiff, sub, QStringLiteral("exif"), &local));
     if (!ifd1.empty()) {
         put32(tiff, ifd0Next, quint32(ifd1At), exif.bigEndian);
         Q_ASSERT(tiff.size() == ifd1At);
-        local.at.insert(QStringLiteral("ifd1.next"),
-                        w.writeIfd(tiff, ifd1, QStringLiteral("ifd1"), &local));
+        local.at.insert(
+            QStringLiteral("ifd1.next"), w.writeIfd(tiff, ifd1, QStringLiteral("ifd1"), &local));
         tiff += exif.thumbnail;
     }
 
@@ -222,8 +219,8 @@ QByteArray JpegFactory::withExif(const QByteArray& jpeg, const Exif& exif, Layou
     return jpeg.left(2) + segment + jpeg.mid(2);
 }
 
-QByteArray JpegFactory::photo(int width, int height, double focalLength, double exposureTime,
-                              int seed)
+QByteArray JpegFactory::photo(
+    int width, int height, double focalLength, double exposureTime, int seed)
 {
     Exif exif;
     exif.focalLength = focalLength;

@@ -37,8 +37,8 @@ public:
     /// Where the fields of a built EXIF block lie, as byte positions from the
     /// start of the TIFF header, which is itself at tiffStart in the file.
     /// Keys: "ifd0" (the header's pointer to IFD0), "ifd0.next", "ifd1.next",
-    /// "exif.next", "<ifd>.count" (an IFD's entry count), and for every entry "<ifd>.<tag in hex>" (the entry's start:
-    /// tag, type, count at +4, value or offset at +8), e.g. "exif.920a".
+    /// "exif.next", "<ifd>.count" (an IFD's entry count), and for every entry "<ifd>.<tag in hex>"
+    /// (the entry's start: tag, type, count at +4, value or offset at +8), e.g. "exif.920a".
     struct Layout
     {
         int tiffStart = -1;
@@ -62,8 +62,8 @@ public:
 
     /// A ready file: picture(width, height) encoded, with EXIF focal length
     /// and exposure time and an embedded 160 x 120 thumbnail.
-    static QByteArray photo(int width, int height, double focalLength,
-                            double exposureTime = 1.0 / 125.0, int seed = 0);
+    static QByteArray photo(
+        int width, int height, double focalLength, double exposureTime = 1.0 / 125.0, int seed = 0);
 
     /// Position of the first SOF0/SOF1/SOF2 marker in jpeg, -1 when none.
     static int sofPosition(const QByteArray& jpeg);

@@ -16,7 +16,6 @@
 
 namespace {
 
-
 /// What a read must end in.
 enum class Outcome {
     Readable, ///< a definition with a thumbnail
@@ -70,9 +69,9 @@ void tst_HostileImages::readAndCheck(const QString& path, Outcome outcome, qint6
         const qint64 grown = memory.growthMb();
         QVERIFY2(grown >= 0, "/proc/self/status is not readable");
         QVERIFY2(grown < PeakMemory::allowedMb(boundMb),
-                 qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound %2 MB")
-                                .arg(grown)
-                                .arg(PeakMemory::allowedMb(boundMb))));
+            qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound %2 MB")
+                           .arg(grown)
+                           .arg(PeakMemory::allowedMb(boundMb))));
         if (outcome == Outcome::Refused)
             QVERIFY2(!def, "a damaged file must be refused");
         if (outcome == Outcome::Readable)
@@ -110,8 +109,8 @@ void tst_HostileImages::initTestCase()
     // The small picture whose EXIF block the bogus cases damage.
     m_exif.focalLength = 24.0;
     m_exif.thumbnail = JpegFactory::encode(JpegFactory::picture(160, 120, 3), 80);
-    m_withLayout = JpegFactory::withExif(JpegFactory::encode(JpegFactory::picture(320, 240, 3)),
-                                         m_exif, &m_layout);
+    m_withLayout = JpegFactory::withExif(
+        JpegFactory::encode(JpegFactory::picture(320, 240, 3)), m_exif, &m_layout);
     const std::unique_ptr<ImageDefinition> small(
         ImageDefinition::Read(write(QStringLiteral("small.jpg"), m_withLayout)));
     QVERIFY(small);
@@ -148,25 +147,32 @@ void tst_HostileImages::bogusExif_data()
     QTest::newRow("IFD0 offset beyond the end") << QStringLiteral("ifd0") << 0 << 0x7ffffff0u << 32;
     QTest::newRow("IFD0 offset all ones") << QStringLiteral("ifd0") << 0 << 0xffffffffu << 32;
     QTest::newRow("IFD0 offset into the header") << QStringLiteral("ifd0") << 0 << 2u << 32;
-    QTest::newRow("Exif IFD offset beyond the end") << QStringLiteral("ifd0.8769") << 8 << 0xfffffff0u << 32;
+    QTest::newRow("Exif IFD offset beyond the end")
+        << QStringLiteral("ifd0.8769") << 8 << 0xfffffff0u << 32;
     QTest::newRow("Exif IFD is IFD0 again (loop)") << QStringLiteral("ifd0.8769") << 8 << 8u << 32;
     QTest::newRow("next IFD of IFD0 is itself") << QStringLiteral("ifd0.next") << 0 << 8u << 32;
-    QTest::newRow("next IFD of IFD1 is IFD0 (loop)") << QStringLiteral("ifd1.next") << 0 << 8u << 32;
-    QTest::newRow("focal offset beyond the end") << QStringLiteral("exif.920a") << 8 << 0x7fffffffu << 32;
+    QTest::newRow("next IFD of IFD1 is IFD0 (loop)")
+        << QStringLiteral("ifd1.next") << 0 << 8u << 32;
+    QTest::newRow("focal offset beyond the end")
+        << QStringLiteral("exif.920a") << 8 << 0x7fffffffu << 32;
     QTest::newRow("focal count huge") << QStringLiteral("exif.920a") << 4 << 0x7fffffffu << 32;
     QTest::newRow("focal type unknown") << QStringLiteral("exif.920a") << 2 << 0xffffu << 16;
     QTest::newRow("focal type zero") << QStringLiteral("exif.920a") << 2 << 0u << 16;
     QTest::newRow("make count all ones") << QStringLiteral("ifd0.010f") << 4 << 0xffffffffu << 32;
-    QTest::newRow("make offset at the end") << QStringLiteral("ifd0.010f") << 8 << 0xfffffffcu << 32;
+    QTest::newRow("make offset at the end")
+        << QStringLiteral("ifd0.010f") << 8 << 0xfffffffcu << 32;
     QTest::newRow("exposure count 2^30") << QStringLiteral("exif.829a") << 4 << 0x40000000u << 32;
     QTest::newRow("date count 1") << QStringLiteral("exif.9003") << 4 << 1u << 32;
-    QTest::newRow("thumbnail offset beyond the end") << QStringLiteral("ifd1.0201") << 8 << 0x7ffffff0u << 32;
+    QTest::newRow("thumbnail offset beyond the end")
+        << QStringLiteral("ifd1.0201") << 8 << 0x7ffffff0u << 32;
     QTest::newRow("thumbnail offset into IFD0") << QStringLiteral("ifd1.0201") << 8 << 8u << 32;
     QTest::newRow("thumbnail length huge") << QStringLiteral("ifd1.0202") << 8 << 0x7fffffffu << 32;
-    QTest::newRow("thumbnail length all ones") << QStringLiteral("ifd1.0202") << 8 << 0xffffffffu << 32;
+    QTest::newRow("thumbnail length all ones")
+        << QStringLiteral("ifd1.0202") << 8 << 0xffffffffu << 32;
     QTest::newRow("thumbnail length zero") << QStringLiteral("ifd1.0202") << 8 << 0u << 32;
     QTest::newRow("IFD0 entry count 0xffff") << QStringLiteral("ifd0.count") << 0 << 0xffffu << 16;
-    QTest::newRow("Exif IFD entry count 0xffff") << QStringLiteral("exif.count") << 0 << 0xffffu << 16;
+    QTest::newRow("Exif IFD entry count 0xffff")
+        << QStringLiteral("exif.count") << 0 << 0xffffu << 16;
 }
 
 void tst_HostileImages::bogusExif()
@@ -210,10 +216,10 @@ void tst_HostileImages::hugeDimensions_data()
     };
     // The picture's scan holds far fewer pixels than declared: whatever the
     // decoder does, a read stays within the bound.
-    QTest::newRow("picture 65535 x 65535") << declared(65535, 65535) << Outcome::Either
-                                           << qint64(96);
-    QTest::newRow("picture 32768 x 32768") << declared(32768, 32768) << Outcome::Either
-                                           << qint64(96);
+    QTest::newRow("picture 65535 x 65535")
+        << declared(65535, 65535) << Outcome::Either << qint64(96);
+    QTest::newRow("picture 32768 x 32768")
+        << declared(32768, 32768) << Outcome::Either << qint64(96);
     QTest::newRow("picture 65535 x 1") << declared(65535, 1) << Outcome::Either << qint64(32);
     QTest::newRow("picture 1 x 65535") << declared(1, 65535) << Outcome::Either << qint64(32);
     QTest::newRow("picture 0 x 0") << declared(0, 0) << Outcome::Either << qint64(32);

@@ -15,7 +15,6 @@
 
 namespace {
 
-
 /// Largest image list generated from a hostile record: generation is
 /// quadratic in the stacks, and hostile records are about reading.
 constexpr int kMaxGenerated = 500;
@@ -109,28 +108,25 @@ void tst_HostileRecords::hostileDocument_data()
     // succeed, with a title of at most maxTitle characters.
     QTest::newRow("entities expanding recursively, 10^9 characters")
         << billionLaughs(title) << true << 1 << 64ll;
-    QTest::newRow("recursive entities in an attribute")
-        << billionLaughs("<papywizard><header><camera><sensor coef=\"&l9;\"/></camera></header>"
-                         "</papywizard>")
-        << true << 0 << 64ll;
+    QTest::newRow("recursive entities in an attribute") << billionLaughs(
+        "<papywizard><header><camera><sensor coef=\"&l9;\"/></camera></header>"
+        "</papywizard>") << true << 0 << 64ll;
     QTest::newRow("quadratic blow-up: 64 KiB entity used 20,000 times")
         << QByteArray("<!DOCTYPE papywizard [<!ENTITY big \"" + QByteArray(65536, 'x')
-                      + "\">]><papywizard><header><general><title>"
-                      + repeated("&big;", 20000) + "</title></general></header></papywizard>")
+               + "\">]><papywizard><header><general><title>" + repeated("&big;", 20000)
+               + "</title></general></header></papywizard>")
         << true << 65536 * 20000 << 64ll;
     QTest::newRow("entity referring to itself")
         << QByteArray("<!DOCTYPE papywizard [<!ENTITY a \"x&a;\">]><papywizard><header><general>"
                       "<title>&a;</title></general></header></papywizard>")
         << false << 0 << 32ll;
-    QTest::newRow("entities referring to each other")
-        << QByteArray("<!DOCTYPE papywizard [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
-                      "<papywizard><header><general><title>&a;</title></general></header>"
-                      "</papywizard>")
-        << false << 0 << 32ll;
-    QTest::newRow("recursive parameter entities")
-        << QByteArray("<!DOCTYPE papywizard [<!ENTITY % a \"&#37;b;\"><!ENTITY % b \"&#37;a;\">"
-                      "%a;]><papywizard/>")
-        << true << 0 << 32ll;
+    QTest::newRow("entities referring to each other") << QByteArray(
+        "<!DOCTYPE papywizard [<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">]>"
+        "<papywizard><header><general><title>&a;</title></general></header>"
+        "</papywizard>") << false << 0 << 32ll;
+    QTest::newRow("recursive parameter entities") << QByteArray(
+        "<!DOCTYPE papywizard [<!ENTITY % a \"&#37;b;\"><!ENTITY % b \"&#37;a;\">"
+        "%a;]><papywizard/>") << true << 0 << 32ll;
     QTest::newRow("external entity on an endless device")
         << QByteArray("<!DOCTYPE papywizard [<!ENTITY z SYSTEM \"/dev/zero\">]><papywizard>"
                       "<header><general><title>&z;</title></general></header></papywizard>")
@@ -138,29 +134,26 @@ void tst_HostileRecords::hostileDocument_data()
     QTest::newRow("external DTD on an endless device")
         << QByteArray("<!DOCTYPE papywizard SYSTEM \"/dev/zero\"><papywizard/>") << true << 0
         << 32ll;
-    QTest::newRow("100,000 nested elements under the root")
-        << QByteArray("<papywizard>" + repeated("<a>", 100000) + repeated("</a>", 100000)
-                      + "</papywizard>")
-        << true << 0 << 256ll;
+    QTest::newRow("100,000 nested elements under the root") << QByteArray(
+        "<papywizard>" + repeated("<a>", 100000) + repeated("</a>", 100000) + "</papywizard>")
+                                                            << true << 0 << 256ll;
     QTest::newRow("100,000 nested elements inside a shot")
         << QByteArray("<papywizard><shoot><pict id=\"1\">" + repeated("<position>", 100000)
-                      + repeated("</position>", 100000) + "</pict></shoot></papywizard>")
+               + repeated("</position>", 100000) + "</pict></shoot></papywizard>")
         << true << 0 << 256ll;
     QTest::newRow("100,000 nested elements, never closed")
         << QByteArray("<papywizard>" + repeated("<a>", 100000)) << false << 0 << 256ll;
-    QTest::newRow("100,000 nested pict elements")
-        << QByteArray("<papywizard><shoot>" + repeated("<pict id=\"1\">", 100000)
-                      + repeated("</pict>", 100000) + "</shoot></papywizard>")
-        << true << 0 << 256ll;
+    QTest::newRow("100,000 nested pict elements") << QByteArray("<papywizard><shoot>"
+        + repeated("<pict id=\"1\">", 100000) + repeated("</pict>", 100000)
+        + "</shoot></papywizard>") << true << 0 << 256ll;
     QTest::newRow("NUL byte inside a text")
         << QByteArray(QByteArray("<papywizard><header><general><title>a") + '\0'
-                      + "b</title></general></header></papywizard>")
+               + "b</title></general></header></papywizard>")
         << true << 3 << 32ll;
-    QTest::newRow("invalid UTF-8 in a text")
-        << QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?><papywizard><header><general>"
-                      "<title>\xff\xfe\xc0\xaf\xed\xa0\x80</title></general></header>"
-                      "</papywizard>")
-        << true << 8 << 32ll;
+    QTest::newRow("invalid UTF-8 in a text") << QByteArray(
+        "<?xml version=\"1.0\" encoding=\"utf-8\"?><papywizard><header><general>"
+        "<title>\xff\xfe\xc0\xaf\xed\xa0\x80</title></general></header>"
+        "</papywizard>") << true << 8 << 32ll;
     QTest::newRow("unknown encoding")
         << QByteArray("<?xml version=\"1.0\" encoding=\"x-none\"?><papywizard/>") << true << 0
         << 32ll;
@@ -171,13 +164,12 @@ void tst_HostileRecords::hostileDocument_data()
     QTest::newRow("empty file") << QByteArray() << false << 0 << 32ll;
     // The largest records read (13 MB, just under the reader's size limit)
     // cost some forty times their size as a document tree.
-    QTest::newRow("200,000 shots")
-        << QByteArray("<papywizard><shoot>"
-                      + repeated("<pict id=\"7\" bracket=\"1\"><position yaw=\"1e39\" "
-                                 "pitch=\"nan\"/></pict>",
-                                 200000)
-                      + "</shoot></papywizard>")
-        << true << 0 << 768ll;
+    QTest::newRow("200,000 shots") << QByteArray("<papywizard><shoot>"
+        + repeated("<pict id=\"7\" bracket=\"1\"><position yaw=\"1e39\" "
+                   "pitch=\"nan\"/></pict>",
+            200000)
+        + "</shoot></papywizard>") << true
+                                   << 0 << 768ll;
     QTest::newRow("17 MB of blanks: beyond the size limit")
         << QByteArray("<papywizard>" + QByteArray(17 << 20, ' ') + "</papywizard>") << true << 0
         << 64ll;
@@ -207,9 +199,9 @@ void tst_HostileRecords::hostileDocument()
     const bool parsed = record.parse(path);
     const qint64 grown = memory.growthMb();
     QVERIFY2(grown >= 0 && grown < PeakMemory::allowedMb(boundMb),
-             qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound %2 MB")
-                            .arg(grown)
-                            .arg(PeakMemory::allowedMb(boundMb))));
+        qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound %2 MB")
+                       .arg(grown)
+                       .arg(PeakMemory::allowedMb(boundMb))));
     if (!parsed) {
         checkRefused(record);
         return;
@@ -301,7 +293,7 @@ void tst_HostileRecords::oneGibibyteLine()
     const qint64 grown = memory.growthMb();
     QFile::remove(path);
     QVERIFY2(grown >= 0 && grown < PeakMemory::allowedMb(512),
-             qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound 512 MB").arg(grown)));
+        qPrintable(QStringLiteral("peak RSS grew by %1 MB, bound 512 MB").arg(grown)));
     if (!parsed)
         checkRefused(record);
     else
