@@ -1,5 +1,6 @@
 #include "ClaussToSPP.h"
 
+#include "FullFrame.h"
 #include "ZIImageDef.h"
 
 #include <QByteArray>
@@ -18,8 +19,6 @@ namespace {
 Q_LOGGING_CATEGORY(lcClauss, "zph.converters.clauss")
 
 constexpr double kPi = 3.141592653589793;
-/// Diagonal of a 36 x 24 mm frame, millimetres.
-constexpr double kFrameDiagonal = 43.266615305567875;
 /// Two photos are linked when their angular distance times this factor is
 /// below the half diagonal field of view of either of them.
 constexpr float kLinkFactor = 0.7f;
@@ -42,7 +41,7 @@ float halfDiagonal(const ZIImageDef* def)
     if (!def)
         return std::numeric_limits<float>::quiet_NaN();
     const float twice = 2.0f * def->FocalLength();
-    return float(std::atan(kFrameDiagonal / double(twice)));
+    return float(std::atan(FullFrame::Diagonal / double(twice)));
 }
 
 /// A dot product of two viewing directions below the returned value means

@@ -1,5 +1,7 @@
 #include "MerlinToSPP.h"
 
+#include "FullFrame.h"
+
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFile>
@@ -19,8 +21,6 @@ Q_LOGGING_CATEGORY(lcMerlin, "zpanohead.converters.merlin", QtWarningMsg)
 constexpr double kPi = 3.141592653589793;
 /// Used to wrap yaw differences; single precision on purpose.
 constexpr float kTwoPiF = 6.2831855f;
-/// Diagonal of a 36 x 24 mm frame, millimetres.
-constexpr double kFrameDiagonal = 43.266615305567875;
 /// Share of the half diagonal field of view two shot centres may be apart.
 /// Single precision on purpose: it widens to 0.6499999761581421.
 constexpr float kLinkFactor = 0.65f;
@@ -280,7 +280,7 @@ void MerlinToSPP::appendLinks(int stackCount, int bracket, double focal)
     // 2f in single precision, the quotient and the arctangent in double.
     const float focalF = float(focal);
     const float twoFocal = focalF + focalF;
-    const float halfFov = float(std::atan(kFrameDiagonal / double(twoFocal)));
+    const float halfFov = float(std::atan(FullFrame::Diagonal / double(twoFocal)));
     const double factor = double(kLinkFactor);
     // d is never negative (or NaN), so no pair passes h > 0.65 d unless h > 0.
     if (!(halfFov > 0.0f))

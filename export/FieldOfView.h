@@ -3,13 +3,14 @@
 // mm frame, so pictures of any aspect ratio and crop come out right.
 #pragma once
 
+#include "FullFrame.h"
 #include "LensModel.h"
 
 class FieldOfView
 {
 public:
     /// Diagonal of a 36 × 24 mm frame, millimetres.
-    static constexpr double FrameDiagonal = 43.266615305567875;
+    static constexpr double FrameDiagonal = FullFrame::Diagonal;
 
     /// Degrees covered by `extent` pixels of a width × height picture through
     /// a lens of focal length `focal` (mm, full-frame equivalent). A standard

@@ -1,6 +1,7 @@
 #include "SampleShoot.h"
 
 #include "ExifTagger.h"
+#include "FullFrame.h"
 #include "SceneTexture.h"
 #include "ViewRenderer.h"
 
@@ -15,7 +16,6 @@ namespace {
 
 constexpr quint32 sceneSeed = 20240601;
 constexpr quint32 errorSeed = 17;
-constexpr double frameDiagonal = 43.266615305567875;
 /// Exposure offsets of one bracket, in shooting order.
 constexpr int bracketEv[SampleShoot::bracket] = { 0, -1, 1 };
 
@@ -25,7 +25,7 @@ constexpr int bracketEv[SampleShoot::bracket] = { 0, -1, 1 };
 double horizontalFov(double focal, int width, int height)
 {
     const double diagonal = std::hypot(double(width), double(height));
-    return 2.0 * std::atan(frameDiagonal * width / diagonal / (2.0 * focal)) * 180.0 / M_PI;
+    return 2.0 * std::atan(FullFrame::Diagonal * width / diagonal / (2.0 * focal)) * 180.0 / M_PI;
 }
 
 /// Scales the linear light of an sRGB-like picture (gamma 2.2) by 2^ev.
