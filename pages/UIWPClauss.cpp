@@ -2,6 +2,7 @@
 #include "UIWPClauss.h"
 
 #include "BlockSignal.h"
+#include "ImportOptions.h"
 #include "ReadingThread.h"
 #include "ZIApplication.h"
 #include "ZUI.h"
@@ -59,10 +60,12 @@ bool UIWPClauss::validatePage()
         return true;
     ClearGenerated(m_converter);
     m_converter.generateSPP(m_files, m_readingThread->ZIImageDefs());
-    m_converter.m_autoDetection = IsChecked(m_ui.m_autoStart);
-    m_converter.m_skipOptimization = IsChecked(m_ui.m_noOptim);
-    m_converter.m_useRecordedLocation = IsChecked(m_ui.m_GridOptim);
-    m_converter.m_cleanWrongLinks = IsChecked(m_ui.m_cleanLink);
+    ImportOptions options;
+    options.autoDetection = IsChecked(m_ui.m_autoStart);
+    options.skipOptimization = IsChecked(m_ui.m_noOptim);
+    options.useRecordedLocation = IsChecked(m_ui.m_GridOptim);
+    options.cleanWrongLinks = IsChecked(m_ui.m_cleanLink);
+    options.WriteTo(Head::Clauss, m_converter);
     Import(host, m_converter);
     return true;
 }

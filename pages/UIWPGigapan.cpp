@@ -2,11 +2,12 @@
 #include "UIWPGigapan.h"
 
 #include "BlockSignal.h"
+#include "GigapanGrid.h"
+#include "ImportOptions.h"
 #include "LayoutPreview.h"
 #include "ReadingThread.h"
 #include "ZIApplication.h"
 
-#include <cmath>
 
 UIWPGigapan::UIWPGigapan(QWidget* parent) : UIWPPage(parent), m_converter(0, 0, 0, 1, 0)
 {
@@ -61,12 +62,14 @@ bool UIWPGigapan::validatePage()
         return true;
     ClearGenerated(m_converter);
     m_converter.generateSPP(m_files, m_ui.m_cbIS360->isChecked());
-    m_converter.m_overlap = m_ui.m_dsbOverlapping->value();
-    WriteLinking(m_converter, m_ui.m_rbLevelLinking0, m_ui.m_rbLevelLinking1,
-        m_ui.m_rbStackLinking0, m_ui.m_rbStackLinking1);
-    m_converter.m_autoDetection = IsChecked(m_ui.m_autoStart);
-    m_converter.m_skipOptimization = IsChecked(m_ui.m_noOptim);
-    m_converter.m_cleanWrongLinks = IsChecked(m_ui.m_cleanLink);
+    ImportOptions options;
+    options.overlap = m_ui.m_dsbOverlapping->value();
+    ReadLinking(options, m_ui.m_rbLevelLinking0, m_ui.m_rbLevelLinking1, m_ui.m_rbStackLinking0,
+        m_ui.m_rbStackLinking1);
+    options.autoDetection = IsChecked(m_ui.m_autoStart);
+    options.skipOptimization = IsChecked(m_ui.m_noOptim);
+    options.cleanWrongLinks = IsChecked(m_ui.m_cleanLink);
+    options.WriteTo(Head::Gigapan, m_converter);
     Import(host, m_converter);
     return true;
 }
@@ -88,19 +91,11 @@ void UIWPGigapan::SelectImages()
 {
     if (!ChooseImages())
         return;
-    // The grid proposal: the most rows, not above the square root of the
-    // number of photos, that divide it; as many columns as that leaves.
     m_converter.m_skipCount = 0;
     m_converter.m_stackSize = 1;
-    const int n = m_files.size();
-    int rows = int(std::sqrt(double(float(n)))) + 1;
-    int columns = 0;
-    do {
-        --rows;
-        columns = n / rows + (n % rows != 0 ? 1 : 0);
-    } while (rows * columns != n);
-    m_converter.m_columns = columns;
-    m_converter.m_rows = rows;
+    const GigapanGrid grid = GigapanGrid::Proposed(m_files.size());
+    m_converter.m_columns = grid.columns;
+    m_converter.m_rows = grid.rows;
     UpdateUI();
     emit completeChanged();
 }
@@ -164,12 +159,8 @@ void UIWPGigapan::ComputeColumns()
 {
     // Rows and bracketing come from boxes whose minimum is 1; the converter
     // starts with 0 rows until the page is reset.
-    if (m_converter.m_rows < 1 || m_converter.m_stackSize < 1) {
-        m_converter.m_columns = 0;
-        return;
-    }
-    m_converter.m_columns
-        = (m_files.size() - m_converter.m_skipCount) / m_converter.m_stackSize / m_converter.m_rows;
+    m_converter.m_columns = GigapanGrid::Columns(m_files.size(), m_converter.m_skipCount,
+        m_converter.m_stackSize, m_converter.m_rows);
 }
 
 void UIWPGigapan::IgnoreNImages(int n)

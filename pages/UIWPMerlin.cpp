@@ -28,7 +28,7 @@ bool UIWPMerlin::validatePage()
     ClearGenerated(m_converter);
     m_converter.generateSPP(
         m_files, m_ui.m_spFocal->value(), LensModel(m_ui.m_cbLensType->currentIndex()));
-    WriteOptions();
+    ReadOptions().WriteTo(Head::Papywizard, m_converter);
     Import(host, m_converter);
     return true;
 }

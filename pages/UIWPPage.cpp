@@ -1,6 +1,7 @@
 // The frame shared by the import wizard pages.
 #include "UIWPPage.h"
 
+#include "ImportOptions.h"
 #include "LayoutPreview.h"
 #include "PagesLogging.h"
 #include "ReadingThread.h"
@@ -209,33 +210,31 @@ bool UIWPPage::IsChecked(const QCheckBox* box)
     return box->checkState() == Qt::Checked;
 }
 
-void UIWPPage::WriteLinking(StructuredPanoramaProperties& record, const QRadioButton* level0,
+void UIWPPage::ReadLinking(ImportOptions& options, const QRadioButton* level0,
     const QRadioButton* level1, const QRadioButton* stack0, const QRadioButton* stack1)
 {
-    if (level0->isChecked())
-        record.m_levelLinking = 0;
-    if (level1->isChecked())
-        record.m_levelLinking = 1;
-    if (stack0->isChecked())
-        record.m_stackLinking = 0;
-    if (stack1->isChecked())
-        record.m_stackLinking = 1;
+    options.levelLinking = level1->isChecked() ? 1 : level0->isChecked() ? 0 : ImportOptions::Keep;
+    options.stackLinking = stack1->isChecked() ? 1 : stack0->isChecked() ? 0 : ImportOptions::Keep;
 }
 
 void UIWPPage::LinkAllLevels(bool en, QRadioButton* stack0, QRadioButton* stack1)
 {
     if (!en)
         return;
-    stack0->setChecked(false);
-    stack1->setChecked(true);
+    ImportOptions options;
+    options.ChooseLevelLinking(1);
+    stack0->setChecked(options.stackLinking == 0);
+    stack1->setChecked(options.stackLinking == 1);
 }
 
 void UIWPPage::LinkStacksHard(bool en, QRadioButton* level0, QRadioButton* level1)
 {
     if (!en)
         return;
-    level0->setChecked(true);
-    level1->setChecked(false);
+    ImportOptions options;
+    options.ChooseStackLinking(0);
+    level0->setChecked(options.levelLinking == 0);
+    level1->setChecked(options.levelLinking == 1);
 }
 
 void UIWPPage::RotateShots(QVector<ShootData>& shots, float degrees)

@@ -24,6 +24,7 @@ class QLineEdit;
 class QRadioButton;
 class QScrollArea;
 class ReadingThread;
+struct ImportOptions;
 class StructuredPanoramaProperties;
 class ZIApplication;
 class ZIImageDef;
@@ -101,9 +102,9 @@ protected:
     /// Check state Qt::Checked; a partly ticked box counts as unchecked.
     static bool IsChecked(const QCheckBox* box);
 
-    /// "Detect links in:" and "For a stack:": a checked button writes its
-    /// value; with neither checked the field keeps its value.
-    static void WriteLinking(StructuredPanoramaProperties& record, const QRadioButton* level0,
+    /// "Detect links in:" and "For a stack:": a checked button gives its
+    /// value; with neither checked the description keeps its value.
+    static void ReadLinking(ImportOptions& options, const QRadioButton* level0,
         const QRadioButton* level1, const QRadioButton* stack0, const QRadioButton* stack1);
     /// Linking across all stack levels needs control points inside a stack.
     static void LinkAllLevels(bool en, QRadioButton* stack0, QRadioButton* stack1);

@@ -24,8 +24,9 @@ bool UIWPVRDrive2::validatePage()
     ClearGenerated(m_converter);
     m_converter.generateSPP(m_files, m_readingThread->ZIImageDefs(), m_ui.m_spFocal->value(),
         LensModel(m_ui.m_cbLensType->currentIndex()));
-    WriteOptions();
-    m_converter.m_outputMode = m_ui.m_rbOutputMode1->isChecked() ? 2 : 3;
+    ImportOptions options = ReadOptions();
+    options.outputMode = m_ui.m_rbOutputMode1->isChecked() ? 2 : 3;
+    options.WriteTo(Head::VRDrive2, m_converter);
     Import(host, m_converter);
     return true;
 }

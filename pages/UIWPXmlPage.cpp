@@ -2,6 +2,8 @@
 #include "UIWPXmlPage.h"
 
 #include "BlockSignal.h"
+#include "Bracketing.h"
+#include "PhotoFocal.h"
 #include "ReadingThread.h"
 #include "ZIApplication.h"
 #include "ZIImageDef.h"
@@ -137,24 +139,16 @@ void UIWPXmlPage::OnZoomChanged()
 void UIWPXmlPage::OnImageLoaded()
 {
     const QList<ZIImageDef*> defs = m_readingThread->ZIImageDefs();
-    double sum = 0.0;
-    for (const ZIImageDef* def : defs) {
-        sum += double(def->FocalLength());
-        m_imageLens = def->LensType();
-    }
-    m_imageFocal = defs.isEmpty() ? 0.0 : sum / defs.size();
+    m_imageFocal = PhotoFocal::MeanOverAll(defs);
+    m_imageLens = PhotoFocal::LastLens(defs, m_imageLens);
 
-    // The photos are the better witness: once they tell a focal length, it
-    // and their lens replace whatever the record or the user said.
-    double focal = std::max(m_record->m_xmlFocal, 0.0);
-    int lens = m_record->m_xmlLensType;
-    if (m_imageFocal > 0) {
-        focal = m_imageFocal;
-        lens = m_imageLens;
-    }
-    if (focal > 0) {
-        m_w.m_spFocal->setValue(focal);
-        m_w.m_cbLensType->setCurrentIndex(lens);
+    // Once the photos tell a focal length, it and their lens replace whatever
+    // the record or the user said.
+    const PhotoFocal::Choice preset = PhotoFocal::Preset(
+        m_imageFocal, m_imageLens, m_record->m_xmlFocal, m_record->m_xmlLensType);
+    if (preset.focal > 0) {
+        m_w.m_spFocal->setValue(preset.focal);
+        m_w.m_cbLensType->setCurrentIndex(preset.lens);
     }
     UpdateUI();
     emit completeChanged();
@@ -279,8 +273,7 @@ void UIWPXmlPage::UpdateUI()
         QString warning;
         const int files = m_files.size();
         if (m_expectedImages >= 1 && files > 0) {
-            const int bracket = m_record->m_nbPicts;
-            if (bracket > 0 && files % bracket != 0)
+            if (!Bracketing::Fits(files, m_record->m_nbPicts))
                 warning = tr("Bracketing used in XML, should be multiple of that number");
             if (m_expectedImages != files)
                 warning = tr("Not the same as in XML fil");
@@ -309,7 +302,7 @@ void UIWPXmlPage::UpdatePreview()
 bool UIWPXmlPage::CheckBracketing()
 {
     const int bracket = m_record->m_nbPicts;
-    if (bracket > 1 && m_files.size() % bracket != 0) {
+    if (!Bracketing::Fits(m_files.size(), bracket)) {
         QMessageBox box(QMessageBox::Warning, tr("Warning"),
             tr("Papywizard XML has bracketing and the number of images isn't a "
                "multiple of this number of brackets."),
@@ -317,17 +310,18 @@ bool UIWPXmlPage::CheckBracketing()
         box.exec();
         return false;
     }
-    if (bracket <= 1)
-        m_record->m_nbPicts = 1;
+    m_record->m_nbPicts = Bracketing::Normalised(bracket);
     return true;
 }
 
-void UIWPXmlPage::WriteOptions()
+ImportOptions UIWPXmlPage::ReadOptions() const
 {
-    WriteLinking(*m_record, m_w.m_rbLevelLinking0, m_w.m_rbLevelLinking1, m_w.m_rbStackLinking0,
+    ImportOptions options;
+    ReadLinking(options, m_w.m_rbLevelLinking0, m_w.m_rbLevelLinking1, m_w.m_rbStackLinking0,
         m_w.m_rbStackLinking1);
-    m_record->m_skipOptimization = IsChecked(m_w.m_noOptim);
-    m_record->m_useRecordedLocation = IsChecked(m_w.m_GridOptim);
-    m_record->m_autoDetection = IsChecked(m_w.m_autoStart);
-    m_record->m_cleanWrongLinks = IsChecked(m_w.m_cleanLink);
+    options.skipOptimization = IsChecked(m_w.m_noOptim);
+    options.useRecordedLocation = IsChecked(m_w.m_GridOptim);
+    options.autoDetection = IsChecked(m_w.m_autoStart);
+    options.cleanWrongLinks = IsChecked(m_w.m_cleanLink);
+    return options;
 }

@@ -9,6 +9,7 @@
 // the generator and the output mode.
 #pragma once
 
+#include "ImportOptions.h"
 #include "MerlinToSPP.h"
 #include "UIWPPage.h"
 
@@ -144,10 +145,9 @@ protected:
     /// does not divide the number of photos, warns and returns false;
     /// otherwise forces a count below 1 to 1 and returns true.
     bool CheckBracketing();
-    /// The options into the record, after generation: linking, then
-    /// "Skip optimization", "Use recorded location", "Auto detection",
-    /// "Clean wrong link".
-    void WriteOptions();
+    /// The options as the form shows them: linking, "Skip optimization",
+    /// "Use recorded location", "Auto detection", "Clean wrong link".
+    ImportOptions ReadOptions() const;
 
     Flavour m_flavour;
     MerlinToSPP* m_record = nullptr;
