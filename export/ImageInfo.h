@@ -21,6 +21,20 @@ struct ImageInfo
     /// A small preview, as stored (not turned by the orientation); may be null.
     QImage thumbnail;
 
+    /// What a photograph definition of the host (ImageDefinition or any class
+    /// with the same accessors) knows of the photograph at `path`.
+    template<class Definition> static ImageInfo From(const QString& path, const Definition& d)
+    {
+        ImageInfo info;
+        info.path = path;
+        info.pixelSize = d.PixelSize();
+        info.orientation = d.Orientation();
+        info.hasExposure = d.HasExposure();
+        info.exposureValue = d.Exposure();
+        info.thumbnail = d.ThumbnailImage();
+        return info;
+    }
+
     /// Degrees by which the stored picture must be turned clockwise to stand
     /// upright: 90 for orientations 5 and 6, 180 for 3 and 4, 270 for 7 and 8.
     int orientationRoll() const

@@ -4,14 +4,11 @@
 #include "ImageDefinition.h"
 #include "PanoramaLayoutView.h"
 
-#ifdef ZPH_HAVE_EXPORT
 #include "DescriptionJson.h"
-#include "ExportInput.h"
-#include "FieldOfView.h"
-#include "GigapanPositions.h"
+#include "ExportInputBuilder.h"
 #include "HuginProjectWriter.h"
 #include "LayoutPicture.h"
-#endif
+#include "PhotoFocal.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -40,89 +37,42 @@ QString row(const QString& name, const QString& value)
         .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
 }
 
-#ifdef ZPH_HAVE_EXPORT
-/// What the exports draw from: the record, where each stack points, what the
-/// host read of each photograph, the focal length and the lens. A record
-/// with angles places each stack at its first shot; a grid without angles is
-/// laid out from its rows, order and overlap at the photographs' field of view.
+/// What the exports draw from: the record, what the host read of each
+/// photograph (read here when the host holds no definition of it), and the
+/// focal length and lens the record or its photographs give.
 bool exportInput(const StructuredPanoramaProperties& r, const HostApplication* host,
     ExportInput* input, QString* error)
 {
-    auto fail = [error](const QString& reason) {
-        if (error)
-            *error = reason;
-        return false;
-    };
-    if (r.m_stacks.isEmpty())
-        return fail(ImportResultPage::tr("The description holds no stack."));
-    input->panorama = r;
-
     QHash<QString, const ImageDefinition*> known;
     if (host) {
         for (const ImageDefinition* def : host->ImageDefinitions())
             known.insert(def->Path(), def);
     }
     std::vector<std::unique_ptr<ImageDefinition>> readHere;
-    double focalSum = 0.0;
-    int focalCount = 0;
-    int imageLens = -1;
+    QHash<QString, ImageInfo> images;
+    QList<ZIImageDef*> photos;
     for (const QStringList& stack : r.m_stacks) {
         for (const QString& path : stack) {
             const ImageDefinition* def = known.value(path);
             if (!def) {
                 readHere.emplace_back(ImageDefinition::Read(path, ImageDefinition::WithThumbnail));
                 def = readHere.back().get();
-                if (!def)
-                    return fail(ImportResultPage::tr("Cannot read %1.")
-                                    .arg(QDir::toNativeSeparators(path)));
+                if (!def) {
+                    if (error)
+                        *error = ImportResultPage::tr("Cannot read %1.")
+                                     .arg(QDir::toNativeSeparators(path));
+                    return false;
+                }
                 known.insert(path, def);
             }
-            ImageInfo info;
-            info.path = path;
-            info.pixelSize = def->PixelSize();
-            info.orientation = def->Orientation();
-            info.hasExposure = def->HasExposure();
-            info.exposureValue = def->Exposure();
-            info.thumbnail = def->ThumbnailImage();
-            input->images.insert(path, info);
-            if (def->FocalLength() > 0.0f) {
-                focalSum += double(def->FocalLength());
-                ++focalCount;
-            }
-            imageLens = def->LensType();
+            images.insert(path, ImageInfo::From(path, *def));
+            photos << const_cast<ImageDefinition*>(def);
         }
     }
-    input->focalLength = r.m_focalLength > 0.0f ? double(r.m_focalLength)
-        : focalCount > 0                        ? focalSum / focalCount
-                                                : 0.0;
-    if (input->focalLength <= 0.0)
-        return fail(ImportResultPage::tr("Neither the description nor the photographs give a "
-                                         "focal length."));
-    input->lens = r.m_lensModel == LensFisheye || (r.m_lensModel == LensUnknown && imageLens == 1)
-        ? LensFisheye
-        : LensStandard;
-
-    if (!r.m_yaw.isEmpty()) {
-        input->positions
-            = HuginProjectWriter::recordedPositions(r, qMax(1, int(r.m_stacks.first().size())));
-    } else {
-        const int rows = qMax(1, r.m_gridRows);
-        const int columns = qMax(1, int(r.m_stacks.size()) / rows);
-        const ImageInfo& first = input->images.value(r.m_stacks.first().first());
-        const int w = first.pixelSize.width();
-        const int h = first.pixelSize.height();
-        const bool turned = first.orientation >= 5;
-        const double across
-            = FieldOfView::degrees(input->focalLength, input->lens, w, h, turned ? h : w);
-        const double up
-            = FieldOfView::degrees(input->focalLength, input->lens, w, h, turned ? w : h);
-        input->positions = GigapanPositions::compute(
-            rows, columns, r.m_gridOrder, r.m_overlap, across, up, r.m_gridFlag);
-        input->positions.resize(r.m_stacks.size());
-    }
-    return true;
+    const PhotoFocal::Choice lens = PhotoFocal::ForDescription(r, photos);
+    return ExportInputBuilder::Build(
+        r, images, lens.focal, LensModel(lens.lens), input, error);
 }
-#endif
 
 } // namespace
 
@@ -149,13 +99,6 @@ ImportResultPage::ImportResultPage(HostApplication* host, QWidget* parent)
     m_lbSaved = new QLabel(this);
     m_lbSaved->setObjectName(QStringLiteral("m_lbSaved"));
     m_lbSaved->setWordWrap(true);
-    if (!CanSave()) {
-        const QString why = tr("This build of panohead was made without the export library.");
-        for (QPushButton* button : { m_pbSaveHugin, m_pbSaveJson, m_pbSaveLayout }) {
-            button->setEnabled(false);
-            button->setToolTip(why);
-        }
-    }
     connect(m_pbSaveHugin, &QPushButton::clicked, this, &ImportResultPage::OnSaveHugin);
     connect(m_pbSaveJson, &QPushButton::clicked, this, &ImportResultPage::OnSaveJson);
     connect(m_pbSaveLayout, &QPushButton::clicked, this, &ImportResultPage::OnSaveLayout);
@@ -186,7 +129,7 @@ void ImportResultPage::initializePage()
         m_view->SetPanorama(m_record);
     }
     for (QPushButton* button : { m_pbSaveHugin, m_pbSaveJson, m_pbSaveLayout })
-        button->setEnabled(CanSave() && m_hasRecord);
+        button->setEnabled(m_hasRecord);
 }
 
 QString ImportResultPage::Summary(const StructuredPanoramaProperties& r, const QString& pluginName)
@@ -291,60 +234,30 @@ QString ImportResultPage::Summary(const StructuredPanoramaProperties& r, const Q
     return html;
 }
 
-bool ImportResultPage::CanSave()
-{
-#ifdef ZPH_HAVE_EXPORT
-    return true;
-#else
-    return false;
-#endif
-}
-
 bool ImportResultPage::SaveHuginProject(const QString& path, QString* error) const
 {
-#ifdef ZPH_HAVE_EXPORT
     ExportInput input;
     if (!exportInput(m_record, m_host, &input, error))
         return false;
     return HuginProjectWriter(input).write(path, error);
-#else
-    Q_UNUSED(path);
-    if (error)
-        *error = tr("Saving is not built in.");
-    return false;
-#endif
 }
 
 bool ImportResultPage::SaveJson(const QString& path, QString* error) const
 {
-#ifdef ZPH_HAVE_EXPORT
     if (!m_hasRecord) {
         if (error)
             *error = tr("Nothing was imported.");
         return false;
     }
     return DescriptionJson::write(m_record, path, error);
-#else
-    Q_UNUSED(path);
-    if (error)
-        *error = tr("Saving is not built in.");
-    return false;
-#endif
 }
 
 bool ImportResultPage::SaveLayoutPicture(const QString& path, QString* error) const
 {
-#ifdef ZPH_HAVE_EXPORT
     ExportInput input;
     if (!exportInput(m_record, m_host, &input, error))
         return false;
     return LayoutPicture::write(input, path, error);
-#else
-    Q_UNUSED(path);
-    if (error)
-        *error = tr("Saving is not built in.");
-    return false;
-#endif
 }
 
 QString ImportResultPage::AskFile(

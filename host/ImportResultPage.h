@@ -27,10 +27,8 @@ public:
     /// The page's text for `record` (HTML): counts, lens and options.
     static QString Summary(const StructuredPanoramaProperties& record, const QString& pluginName);
 
-    /// Whether this build can save (the export library is linked in).
-    static bool CanSave();
     /// Writes the shown description as a Hugin project / JSON file. False
-    /// with `error` set when the file cannot be written or saving is not built.
+    /// with `error` set when the file cannot be written.
     bool SaveHuginProject(const QString& path, QString* error = nullptr) const;
     bool SaveJson(const QString& path, QString* error = nullptr) const;
     /// The layout picture (PNG): each stack's first photograph where it points.

@@ -1,5 +1,7 @@
 #include "PanoramaLayoutView.h"
 
+#include "GigapanToSPP.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -8,25 +10,6 @@
 namespace {
 
 constexpr double Pi = 3.141592653589793;
-
-/// The shooting index idx(a, b) of grid cell row a, column b for each order.
-int gridIndex(int order, int rows, int cols, int a, int b)
-{
-    switch (order) {
-    case 1:
-        return cols * a + b;
-    case 2:
-        return cols * (rows - 1 - a) + b;
-    case 3:
-        return a + rows * (cols - 1 - b);
-    case 4: {
-        const int r = rows - 1 - a;
-        return r % 2 == 0 ? cols * r + b : cols * r + (cols - 1 - b);
-    }
-    default:
-        return a + rows * b;
-    }
-}
 
 QColor directionColour(int direction)
 {
@@ -62,20 +45,24 @@ PanoramaLayoutView::Layout PanoramaLayoutView::StackPositions(
         }
         return layout;
     }
-    const int rows = qMax(1, record.m_gridRows);
+    // An order the converter does not know has no grid: the stacks stand in
+    // one row, in shooting order.
+    const bool knownOrder = GigapanToSPP::CellIndex(record.m_gridOrder, 1, 1, 0, 0) >= 0;
+    const int rows = knownOrder ? qMax(1, record.m_gridRows) : 1;
     const int cols = qMax(1, (stacks + rows - 1) / rows);
+    const int order = knownOrder ? record.m_gridOrder : 1;
     layout.positions.fill(QPointF(), stacks);
     QVector<bool> placed(stacks, false);
     for (int a = 0; a < rows; ++a) {
         for (int b = 0; b < cols; ++b) {
-            const int k = gridIndex(record.m_gridOrder, rows, cols, a, b);
-            if (k >= 0 && k < stacks && !placed[k]) {
-                layout.positions[k] = QPointF(b, -a);
-                placed[k] = true;
+            const qint64 k = GigapanToSPP::CellIndex(order, rows, cols, a, b);
+            if (k >= 0 && k < stacks && !placed[int(k)]) {
+                layout.positions[int(k)] = QPointF(b, -a);
+                placed[int(k)] = true;
             }
         }
     }
-    // An order the grid formulas do not cover: the remaining stacks in a row below.
+    // Stacks beyond the grid's cells: in a row below it.
     int spare = 0;
     for (int k = 0; k < stacks; ++k) {
         if (!placed[k])
