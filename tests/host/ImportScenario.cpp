@@ -17,6 +17,8 @@
 #include <QTimer>
 #include <QWizardPage>
 
+#include <cmath>
+
 namespace {
 
 const char* const ClaussUid = "5A656C6D-6F20-2020-2020-D6D081182F97";
@@ -111,8 +113,15 @@ QStringList ImportScenario::Photos(const QString& plugin) const
     return photos;
 }
 
+int ImportScenario::Camera::EquivalentOf(int photo) const
+{
+    return int(std::lround(FocalOf(photo) * crop));
+}
+
 bool ImportScenario::Prepare(const QString& folder)
 {
+    // The records hold the full-frame equivalent of the first photograph's focal.
+    const double recordFocal = camera.EquivalentOf(0) > 0 ? camera.EquivalentOf(0) : 24.0;
     m_folder = folder;
     if (!QDir().mkpath(folder)) {
         m_error = QStringLiteral("cannot create ") + folder;
@@ -122,11 +131,12 @@ bool ImportScenario::Prepare(const QString& folder)
     const QVector<QPointF> grid
         = { { 0, 0 }, { 40, 0 }, { 80, 0 }, { 0, -30 }, { 40, -30 }, { 80, -30 } };
     if (!writeFile(HeadFile(QStringLiteral("Papywizard")),
-            papywizardXml(QStringLiteral("Six positions"), 1, 24.0, grid), &m_error))
+            papywizardXml(QStringLiteral("Six positions"), 1, recordFocal, grid), &m_error))
         return false;
     // VR Drive 2: two positions, three exposures each.
     if (!writeFile(HeadFile(QStringLiteral("VRDrive2")),
-            papywizardXml(QStringLiteral("Bracketed"), 3, 24.0, { { 0, 0 }, { 40, 0 } }), &m_error))
+            papywizardXml(
+                QStringLiteral("Bracketed"), 3, recordFocal, { { 0, 0 }, { 40, 0 } }), &m_error))
         return false;
     // Clauss: four shots 35 degrees apart on the horizon.
     if (!writeFile(HeadFile(QStringLiteral("Clauss")),
@@ -142,8 +152,10 @@ bool ImportScenario::Prepare(const QString& folder)
             PhotoFixture f;
             f.size = QSize(480, 320);
             f.seed = ++seed;
-            f.focalNum = 24;
-            f.focalDen = 1;
+            f.focalNum = camera.FocalOf(i);
+            f.focalDen = f.focalNum > 0 ? 1 : 0;
+            if (camera.crop != 1.0 && f.focalNum > 0)
+                f.focal35mm = camera.EquivalentOf(i);
             f.fNumberNum = 8;
             f.fNumberDen = 1;
             f.iso = 100;

@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <functional>
 
 class ImportWizard;
@@ -20,6 +21,22 @@ public:
     static QStringList PluginNames();
     /// The plug-in's UID.
     static QString Uid(const QString& plugin);
+
+    /// The camera the photographs say they come from.
+    struct Camera
+    {
+        /// EXIF focal length of each photograph by its place in its import, in
+        /// millimetres; 0 leaves the tag out. Photographs beyond the list: 24.
+        QVector<int> focals;
+        /// Crop factor of the sensor: above 1 the photographs also carry a 35
+        /// mm equivalent (the focal length times the factor, rounded), and the
+        /// heads' records hold that equivalent.
+        double crop = 1.0;
+
+        int FocalOf(int photo) const { return photo < focals.size() ? focals[photo] : 24; }
+        int EquivalentOf(int photo) const;
+    };
+    Camera camera;
 
     /// Writes the head's file and the photographs of every plug-in's import
     /// under `folder`. False with ErrorString() on failure.

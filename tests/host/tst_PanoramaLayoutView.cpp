@@ -91,9 +91,11 @@ void tst_PanoramaLayoutView::stackPositions_data()
     QTest::newRow("serpentine, 3x2")
         << grid(6, 3, 4) << false
         << QVector<QPointF> { { 0, -2 }, { 1, -2 }, { 1, -1 }, { 0, -1 }, { 0, 0 }, { 1, 0 } };
-    // An unknown order falls back to columns.
+    // An order the converter does not know has no grid: one row, in shooting order.
     QTest::newRow("unknown order")
-        << grid(4, 2, 9) << false << QVector<QPointF> { { 0, 0 }, { 0, -1 }, { 1, 0 }, { 1, -1 } };
+        << grid(4, 2, 9) << false << QVector<QPointF> { { 0, 0 }, { 1, 0 }, { 2, 0 }, { 3, 0 } };
+    QTest::newRow("negative order")
+        << grid(3, 3, -1) << false << QVector<QPointF> { { 0, 0 }, { 1, 0 }, { 2, 0 } };
     QTest::newRow("no rows recorded")
         << grid(3, 0, 0) << false << QVector<QPointF> { { 0, 0 }, { 1, 0 }, { 2, 0 } };
     QTest::newRow("nothing") << StructuredPanoramaProperties() << false << QVector<QPointF> {};
