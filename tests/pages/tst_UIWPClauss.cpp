@@ -1,6 +1,8 @@
 // The Clauss Rodeon import page, used as a user would: its form, the combined
 // script-and-photos dialog, the image dialog, the theta and phi ranges and
 // their inversion, the error box, the preview and the record handed over.
+#include "ClaussToSPP.h"
+#include "LayoutPreview.h"
 #include "PageTestHost.h"
 #include "PageTestSupport.h"
 #include "ReadingThread.h"
@@ -44,6 +46,8 @@ private slots:
     void validateWithoutHostImportsNothing();
     void controlKeyOpensTheScriptsFolder();
     void previewDrawsEveryTimeInKeyOrder();
+    void multiTurnScriptIsPreviewed_data();
+    void multiTurnScriptIsPreviewed();
 
 private:
     UIWPClauss* NewPage();
@@ -447,6 +451,47 @@ void tst_UIWPClauss::previewDrawsEveryTimeInKeyOrder()
     page->RestoreState(QByteArray("x"));
     QVERIFY(PreviewPixmap(page).cacheKey() != drawn);
     QVERIFY(page->SaveState().isEmpty());
+}
+
+void tst_UIWPClauss::multiTurnScriptIsPreviewed_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<QSize>("shown");
+    // Yaw 117 to 1738, pitch 0 to 2, 12 pixels a degree: a canvas of
+    // 1621 x 12 + 100 = 19552 by 124 pixels.
+    QTest::newRow("50 %") << 50 << QSize(9776, 62);
+    QTest::newRow("100 %") << 100 << QSize(19552, 124);
+    QTest::newRow("7 %") << 7 << QSize(1368, 8);
+}
+
+void tst_UIWPClauss::multiTurnScriptIsPreviewed()
+{
+    QFETCH(int, zoom);
+    QFETCH(QSize, shown);
+    UIWPClauss* page = NewPage();
+    const QString script = m_folder->AddFixture("clauss_multiturn.txt");
+    ClickAndChooseFiles(Child<QPushButton>(page, "m_pbSelectConfigFile"), { script });
+    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("38"));
+    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("117,1738"));
+    Child<QSlider>(page, "m_hSlider")->setValue(zoom);
+    const QPixmap preview = PreviewPixmap(page);
+    QCOMPARE(preview.size(), shown);
+    // Exactly the full-size drawing of the script's shots, zoomed.
+    ClaussToSPP converter;
+    QVERIFY(converter.parse(script));
+    const QPixmap canvas = LayoutPreview::DrawShots(converter.m_shots, {}, 117, 1738, 0, 2,
+        page->palette().brush(QPalette::Window));
+    QCOMPARE(canvas.size(), QSize(19552, 124));
+    const QImage expected = LayoutPreview::Zoom(canvas, zoom).toImage();
+    QCOMPARE(preview.toImage(), expected);
+    // Not blank: the cells' outlines and labels differ from the background.
+    const QColor background = page->palette().color(QPalette::Window);
+    int marks = 0;
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x)
+            marks += expected.pixelColor(x, y) != background ? 1 : 0;
+    }
+    QVERIFY2(marks > 0, "the preview shows only the background");
 }
 
 ZPH_PAGE_TEST_MAIN(tst_UIWPClauss)
