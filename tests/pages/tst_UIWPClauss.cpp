@@ -22,14 +22,11 @@
 #include <cfloat>
 #include <memory>
 
-class tst_UIWPClauss : public QObject
+class tst_UIWPClauss : public PageTest<UIWPClauss>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
     void tabOrder();
     void textsAreTranslatedUnderTheirContexts();
@@ -50,44 +47,8 @@ private slots:
     void multiTurnScriptIsPreviewed();
 
 private:
-    UIWPClauss* NewPage();
     QStringList AddPhotos(int count, float focal, const QString& stem = "photo");
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPClauss> m_page;
 };
-
-void tst_UIWPClauss::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPClauss::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPClauss* tst_UIWPClauss::NewPage()
-{
-    m_page = std::make_unique<UIWPClauss>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPClauss::AddPhotos(int count, float focal, const QString& stem)
 {

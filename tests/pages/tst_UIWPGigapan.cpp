@@ -37,14 +37,11 @@ AuthorizedLink Link(int direction, int from, int to)
 
 } // namespace
 
-class tst_UIWPGigapan : public QObject
+class tst_UIWPGigapan : public PageTest<UIWPGigapan>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
     void tabOrder();
     void textsAreTranslatedUnderTheirContexts();
@@ -62,45 +59,9 @@ private slots:
     void linkingButtonsConstrainEachOther();
 
 private:
-    UIWPGigapan* NewPage();
     QStringList AddPhotos(int count, const QString& stem = "photo");
     bool Choose(const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPGigapan> m_page;
 };
-
-void tst_UIWPGigapan::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPGigapan::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPGigapan* tst_UIWPGigapan::NewPage()
-{
-    m_page = std::make_unique<UIWPGigapan>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPGigapan::AddPhotos(int count, const QString& stem)
 {

@@ -40,14 +40,11 @@ QString Warning(const QString& text)
 
 } // namespace
 
-class tst_UIWPMerlin : public QObject
+class tst_UIWPMerlin : public PageTest<UIWPMerlin>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
     void tabOrder();
     void textsAreTranslatedUnderTheirContexts();
@@ -85,48 +82,12 @@ private slots:
     void unreadablePhotosKeepThePageIncomplete();
 
 private:
-    UIWPMerlin* NewPage();
     /// Registers photos with the host: focal, lens, keys 1, 2, 3 ... and
     /// distinct colours; returns their paths.
     QStringList AddPhotos(int count, float focal, int lens, const QString& stem = "photo");
     /// Chooses `fixture` and `photos` in the combined dialog and waits for the reading.
     bool Open(const QString& fixture, const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPMerlin> m_page;
 };
-
-void tst_UIWPMerlin::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPMerlin::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPMerlin* tst_UIWPMerlin::NewPage()
-{
-    m_page = std::make_unique<UIWPMerlin>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPMerlin::AddPhotos(int count, float focal, int lens, const QString& stem)
 {

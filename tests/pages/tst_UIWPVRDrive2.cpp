@@ -31,14 +31,11 @@ QString Warning(const QString& text)
 
 } // namespace
 
-class tst_UIWPVRDrive2 : public QObject
+class tst_UIWPVRDrive2 : public PageTest<UIWPVRDrive2>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
     void tabOrder();
     void logoIsShownWhenThePictureExists();
@@ -52,45 +49,9 @@ private slots:
     void sharedBehaviour();
 
 private:
-    UIWPVRDrive2* NewPage();
     QStringList AddBracketedPhotos(int positions, float focal);
     bool Open(const QString& fixture, const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPVRDrive2> m_page;
 };
-
-void tst_UIWPVRDrive2::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPVRDrive2::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPVRDrive2* tst_UIWPVRDrive2::NewPage()
-{
-    m_page = std::make_unique<UIWPVRDrive2>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPVRDrive2::AddBracketedPhotos(int positions, float focal)
 {
