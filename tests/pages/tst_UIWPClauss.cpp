@@ -28,8 +28,6 @@ class tst_UIWPClauss : public PageTest<UIWPClauss>
 
 private slots:
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void pictureIsShownWhenItExists();
     void scriptAndPhotosInOneDialog();
     void onlyPhotosOrOnlyAScript();
@@ -108,36 +106,6 @@ void tst_UIWPClauss::formMatchesTheDesign()
     QCOMPARE(zoom->value(), 50);
     QVERIFY(Child<QLineEdit>(page, "m_leConfigFile")->completer());
     QVERIFY(!page->isComplete());
-}
-
-void tst_UIWPClauss::tabOrder()
-{
-    UIWPClauss* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leConfigFile", "m_pbSelectConfigFile",
-        "m_pbReset", "m_pInverseCoordinates", "m_leImage", "m_pbSelectImages", "m_autoStart",
-        "m_cleanLink", "m_noOptim", "m_GridOptim", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPClauss::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPClauss* page = NewPage();
-    QCOMPARE(
-        Child<QLabel>(page, "label")->text(), QStringLiteral("[UIWPClaussClass] Script file:"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("[UIWPClauss] N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbImageLog")->text(), QStringLiteral("[UIWPClauss] N/A"));
-    // The range labels' "N/A" is not translated.
-    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPhiMinMax")->text(), QStringLiteral("N/A"));
 }
 
 void tst_UIWPClauss::pictureIsShownWhenItExists()

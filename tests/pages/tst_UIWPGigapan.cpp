@@ -43,8 +43,6 @@ class tst_UIWPGigapan : public PageTest<UIWPGigapan>
 
 private slots:
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void gridProposal_data();
     void gridProposal();
     void gridEditsRecomputeTheColumns();
@@ -147,34 +145,6 @@ void tst_UIWPGigapan::formMatchesTheDesign()
     QCOMPARE(Child<QWidget>(page, "m_rbMode3")->y(), Child<QWidget>(page, "m_rbMode0")->y());
     QCOMPARE(Child<QWidget>(page, "m_rbMode2")->y(), Child<QWidget>(page, "m_rbMode1")->y());
     QVERIFY(!page->isComplete());
-}
-
-void tst_UIWPGigapan::tabOrder()
-{
-    UIWPGigapan* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leImage", "m_pbSelectImages", "m_pbReset",
-        "m_sbRow", "m_sbColumn", "m_sbIgnore", "m_sbBracket", "m_rbMode3", "m_rbMode0", "m_rbMode2",
-        "m_rbMode1", "m_cbIS360", "m_dsbOverlapping", "m_rbLevelLinking0", "m_rbLevelLinking1",
-        "m_rbStackLinking0", "m_rbStackLinking1", "m_autoStart", "m_cleanLink", "m_noOptim",
-        "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPGigapan::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPGigapan* page = NewPage();
-    QCOMPARE(Child<QLabel>(page, "label_6")->text(), QStringLiteral("[UIWPGigapanClass] Images :"));
-    QCOMPARE(
-        Child<QLabel>(page, "m_lbImage")->text(), QStringLiteral("0 [UIWPGigapan] images in "));
 }
 
 void tst_UIWPGigapan::gridProposal_data()

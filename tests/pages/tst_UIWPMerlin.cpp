@@ -46,8 +46,6 @@ class tst_UIWPMerlin : public PageTest<UIWPMerlin>
 
 private slots:
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void subtitleLinkTakesTheThemeColour();
     void chooseRecordAndPhotosInOneDialog();
     void imageDialogSortsAndTellsTheHost();
@@ -209,40 +207,6 @@ void tst_UIWPMerlin::formMatchesTheDesign()
     QVERIFY(!page->isComplete());
     QVERIFY(ReaderOf(page));
     QCOMPARE(ReaderOf(page)->parent(), page);
-}
-
-void tst_UIWPMerlin::tabOrder()
-{
-    UIWPMerlin* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leConfigFile", "m_pbSelectConfigFile",
-        "m_pbReset", "m_leImage", "m_pbSelectImages", "m_pInverseCoordinates", "m_pbRot270",
-        "m_pbRot90", "m_spFocal", "m_cbLensType", "m_pbFLUseXML", "m_pbFLUseImage",
-        "m_rbLevelLinking0", "m_rbLevelLinking1", "m_rbStackLinking0", "m_rbStackLinking1",
-        "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim", "m_leHeaderTitle",
-        "m_leHeaderGps", "m_leHeaderComment", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPMerlin::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPMerlin* page = NewPage();
-    QCOMPARE(Child<QLabel>(page, "label")->text(), QStringLiteral("[UIWPMerlinClass] XML:"));
-    QCOMPARE(page->title(), QStringLiteral("[UIWPMerlinClass] Papywizard import"));
-    QCOMPARE(
-        Child<QComboBox>(page, "m_cbLensType")->itemText(1), QStringLiteral("[UIWPPage] Fisheye"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("[UIWPXmlPage] N/A"));
-    // The yaw label's "N/A" is not translated, the pitch label's is.
-    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPhiMinMax")->text(), QStringLiteral("[UIWPXmlPage] N/A"));
 }
 
 void tst_UIWPMerlin::subtitleLinkTakesTheThemeColour()

@@ -37,7 +37,6 @@ class tst_UIWPVRDrive2 : public PageTest<UIWPVRDrive2>
 
 private slots:
     void formMatchesTheDesign();
-    void tabOrder();
     void logoIsShownWhenThePictureExists();
     void failedPresetKeepsTheEarlierRange();
     void focalWarningSaysLength();
@@ -128,26 +127,6 @@ void tst_UIWPVRDrive2::formMatchesTheDesign()
     QCOMPARE(zoom->maximum(), 100);
     QCOMPARE(zoom->value(), 50);
     QCOMPARE(Child<QPushButton>(page, "m_pbRot90")->iconSize(), QSize(32, 32));
-}
-
-void tst_UIWPVRDrive2::tabOrder()
-{
-    UIWPVRDrive2* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leImage", "m_pbSelectImages", "m_leConfigFile",
-        "m_pbSelectConfigFile", "m_pbReset", "m_rbOutputMode1", "m_rbOutputMode2",
-        "m_pInverseCoordinates", "m_pbRot270", "m_pbRot90", "m_spFocal", "m_cbLensType",
-        "m_pbFLUseXML", "m_pbFLUseImage", "m_rbLevelLinking0", "m_rbLevelLinking1",
-        "m_rbStackLinking0", "m_rbStackLinking1", "m_autoStart", "m_cleanLink", "m_noOptim",
-        "m_GridOptim", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
 }
 
 void tst_UIWPVRDrive2::logoIsShownWhenThePictureExists()
