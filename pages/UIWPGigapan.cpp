@@ -132,9 +132,8 @@ void UIWPGigapan::UpdatePreview()
             cellImages << (read ? m_images[int(photo)] : nullptr);
         }
     }
-    ShowPreview(LayoutPreview::DrawGrid(rows, columns, m_converter.m_order, cellImages,
-                    palette().brush(QPalette::Window)),
-        m_ui.m_hSlider->value());
+    ShowPreview(LayoutPreview::PreviewGrid(rows, columns, m_converter.m_order, cellImages,
+        palette().brush(QPalette::Window), m_ui.m_hSlider->value()));
     // Reached after every change of photos, photos read, grid and zoom.
     emit completeChanged();
 }

@@ -278,12 +278,11 @@ void UIWPPage::UpdateShotPreview(const QVector<ShootData>& shots, int zoom, bool
         return;
     m_images = byKey ? LayoutPreview::OrderedByKey(defs) : defs;
     const QBrush background = palette().brush(QPalette::Window);
-    ShowPreview(LayoutPreview::DrawShots(
-                    shots, m_images, m_yawMin, m_yawMax, m_pitchMin, m_pitchMax, background),
-        zoom);
+    m_preview->setPixmap(LayoutPreview::PreviewShots(
+        shots, m_images, m_yawMin, m_yawMax, m_pitchMin, m_pitchMax, background, zoom));
 }
 
-void UIWPPage::ShowPreview(const QPixmap& canvas, int zoom)
+void UIWPPage::ShowPreview(const QPixmap& preview)
 {
-    m_preview->setPixmap(LayoutPreview::Zoom(canvas, zoom));
+    m_preview->setPixmap(preview);
 }

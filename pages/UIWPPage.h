@@ -125,10 +125,11 @@ protected:
     /// The preview of `shots` at `zoom` per cent. With `cached`, nothing is
     /// drawn while the reading list has as many definitions as m_images (empty
     /// m_images to force a redraw); with `byKey` the definitions are drawn in
-    /// OrderKey order when their keys all differ.
+    /// OrderKey order when their keys all differ. A layout too large to paint
+    /// whole is drawn scaled (LayoutPreview::PreviewShots).
     void UpdateShotPreview(const QVector<ShootData>& shots, int zoom, bool cached, bool byKey);
-    /// Shows `canvas` at `zoom` per cent.
-    void ShowPreview(const QPixmap& canvas, int zoom);
+    /// Shows `preview`, already zoomed.
+    void ShowPreview(const QPixmap& preview);
 
     ReadingThread* m_readingThread = nullptr;
     /// The definitions drawn in the preview, in drawing order; not owned.

@@ -7,35 +7,12 @@
 #include <cstring>
 #include <stdexcept>
 
-PageTestHostBase::PageTestHostBase(int& argc, char** argv) : QApplication(argc, argv)
-{
-    // Qt's own dialogs, which a test can find among the windows and fill in.
-    m_uiSettings.useSystemFileDialog = false;
-    m_uiInstances.settings = &m_uiSettings;
-}
+PageTestHostBase::PageTestHostBase(int& argc, char** argv) : RecordingHost(argc, argv) {}
 
 PageTestHostBase::~PageTestHostBase()
 {
     StopHolding();
     ForgetImages();
-}
-
-void PageTestHostBase::Record(const QString& call)
-{
-    QMutexLocker lock(&m_mutex);
-    m_calls << call;
-}
-
-QString PageTestHostBase::DefaultFolder()
-{
-    Record(QStringLiteral("DefaultFolder()"));
-    QMutexLocker lock(&m_mutex);
-    return m_folder;
-}
-
-void PageTestHostBase::SetDefaultFolder(const QString& path)
-{
-    Record(QStringLiteral("SetDefaultFolder(%1)").arg(path));
 }
 
 QVariant PageTestHostBase::GetSetting(
@@ -72,19 +49,6 @@ ZIImageDef* PageTestHostBase::CreateImageDef(const QString& path)
     return m_defs.value(path, nullptr);
 }
 
-void PageTestHostBase::ImportStructuredPanorama(const StructuredPanoramaProperties& properties)
-{
-    Record(QStringLiteral("ImportStructuredPanorama()"));
-    QMutexLocker lock(&m_mutex);
-    m_imports << properties;
-}
-
-ZUIInstances* PageTestHostBase::UIInstances()
-{
-    Record(QStringLiteral("UIInstances()"));
-    return &m_uiInstances;
-}
-
 TestImageDef* PageTestHostBase::AddImage(
     const QString& path, float focal, int lens, qint64 key, float exposure, const QColor& colour)
 {
@@ -111,46 +75,6 @@ void PageTestHostBase::ForgetImages()
     qDeleteAll(m_defs);
     m_defs.clear();
     m_throwing.clear();
-}
-
-void PageTestHostBase::SetFolder(const QString& folder)
-{
-    QMutexLocker lock(&m_mutex);
-    m_folder = folder;
-}
-
-QStringList PageTestHostBase::Calls() const
-{
-    QMutexLocker lock(&m_mutex);
-    return m_calls;
-}
-
-QStringList PageTestHostBase::CallsStartingWith(const QString& prefix) const
-{
-    QStringList calls;
-    for (const QString& call : Calls()) {
-        if (call.startsWith(prefix))
-            calls << call;
-    }
-    return calls;
-}
-
-void PageTestHostBase::ClearCalls()
-{
-    QMutexLocker lock(&m_mutex);
-    m_calls.clear();
-}
-
-QVector<StructuredPanoramaProperties> PageTestHostBase::Imports() const
-{
-    QMutexLocker lock(&m_mutex);
-    return m_imports;
-}
-
-void PageTestHostBase::ClearImports()
-{
-    QMutexLocker lock(&m_mutex);
-    m_imports.clear();
 }
 
 void PageTestHostBase::HoldReading()

@@ -1,6 +1,7 @@
 // Helpers of the page tests.
 #include "PageTestSupport.h"
 
+#include "PageTestHost.h"
 #include "ReadingThread.h"
 
 #include <QAbstractButton>
@@ -271,4 +272,27 @@ void CompareRecords(
 float Radians(float degrees)
 {
     return float(double(degrees) * 3.141592653589793 / 180.0);
+}
+
+void PageTestBase::init()
+{
+    m_host = PageTestHost::instance();
+    m_host->StopHolding();
+    m_host->SetInterfaceHidden(false);
+    m_folder = std::make_unique<FixtureFolder>();
+    QVERIFY(m_folder->isValid());
+    m_host->SetFolder(m_folder->path());
+    m_host->ClearCalls();
+    m_host->ClearImports();
+}
+
+void PageTestBase::cleanup()
+{
+    m_host->StopHolding();
+    if (m_page) {
+        ReaderOf(m_page.get())->wait(10000);
+        m_page.reset();
+    }
+    m_host->ForgetImages();
+    m_folder.reset();
 }

@@ -18,7 +18,9 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
+class PageTestHost;
 class QAbstractButton;
 class ReadingThread;
 
@@ -154,3 +156,38 @@ void CompareRecords(
 
 /// Degrees to the record's radians: double arithmetic, stored as float.
 float Radians(float degrees);
+
+/// The fixture of the page suites: before each test the host forgets what
+/// the last one did (calls, records, a hidden interface, held readings) and a
+/// fresh FixtureFolder becomes its default folder; after each test the page's
+/// reading is waited for, then the page, the host's images and the folder go.
+class PageTestBase : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+protected:
+    PageTestHost* m_host = nullptr;
+    std::unique_ptr<FixtureFolder> m_folder;
+    /// The page of the current test, made by PageTest::NewPage.
+    std::unique_ptr<QWidget> m_page;
+};
+
+/// PageTestBase for one kind of page.
+template<class Page> class PageTest : public PageTestBase
+{
+protected:
+    /// A new page, 700 x 700 and shown, owned by the fixture until cleanup.
+    Page* NewPage()
+    {
+        auto page = std::make_unique<Page>();
+        Page* shown = page.get();
+        shown->resize(700, 700);
+        shown->show();
+        m_page = std::move(page);
+        return shown;
+    }
+};

@@ -1,6 +1,7 @@
 // The preview drawing shared by the pages: grid step, scale with its 8-degree
 // floor, canvas size and its guards, cell placement, thumbnails rotated by
-// roll, zoom and ordering by key.
+// roll, zoom, ordering by key, and the previews of layouts too large to paint
+// whole, which are drawn scaled instead of left blank.
 #include "LayoutPreview.h"
 #include "PageTestHost.h"
 #include "PageTestSupport.h"
@@ -43,6 +44,40 @@ QColor PixelAt(const QPixmap& pixmap, double x, double y)
     return pixmap.toImage().pixelColor(int(x), int(y));
 }
 
+/// A head that turned several times: a row at pitch 0 every 45 degrees from
+/// yaw 117 to 1737, then one shot at yaw 1738, pitch 2 (step 1, 12 pixels a
+/// degree). The same shots as data/clauss_multiturn.txt.
+QVector<ShootData> MultiTurnShots()
+{
+    QVector<ShootData> shots;
+    for (int k = 0; k < 37; ++k)
+        shots << Shot(117.0f + 45.0f * k, 0);
+    shots << Shot(1738, 2);
+    return shots;
+}
+
+/// Two shots 96 degrees apart: one pixel a degree, so that a range of R
+/// degrees makes a canvas side of R + 100 pixels.
+QVector<ShootData> OnePixelADegree()
+{
+    return { Shot(0, 0), Shot(96, 0) };
+}
+
+/// True when some pixel differs from the background.
+bool HasMarks(const QPixmap& pixmap)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+    const QRgb background = kBackground.rgb();
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (line[x] != background)
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 class tst_LayoutPreview : public QObject
@@ -65,6 +100,14 @@ private slots:
     void gridCellsFollowTheShootingOrder_data();
     void gridCellsFollowTheShootingOrder();
     void gridGuards();
+    void paintable_data();
+    void paintable();
+    void largestPaintable_data();
+    void largestPaintable();
+    void previewOfShots_data();
+    void previewOfShots();
+    void previewOfGrids_data();
+    void previewOfGrids();
 };
 
 void tst_LayoutPreview::gridStep_data()
@@ -125,8 +168,14 @@ void tst_LayoutPreview::canvasSize_data()
     QTest::newRow("unread range") << 12.0f << -FLT_MAX << FLT_MAX << -FLT_MAX << FLT_MAX << QSize();
     QTest::newRow("accumulator start")
         << 12.0f << FLT_MAX << -FLT_MAX << FLT_MAX << -FLT_MAX << QSize();
-    QTest::newRow("side too long") << 12.0f << 0.0f << 1400.0f << 0.0f << 0.0f << QSize();
-    QTest::newRow("area too large") << 12.0f << 0.0f << 1000.0f << 0.0f << 1000.0f << QSize();
+    // The canvas is what the range asks for, paintable or not.
+    QTest::newRow("longer than 16384") << 12.0f << 0.0f << 1400.0f << 0.0f << 0.0f
+                                       << QSize(16900, 100);
+    QTest::newRow("multi-turn script") << 12.0f << 117.0f << 1738.0f << 0.0f << 2.0f
+                                       << QSize(19552, 124);
+    QTest::newRow("beyond 512 MiB") << 12.0f << 0.0f << 1000.0f << 0.0f << 1000.0f
+                                    << QSize(12100, 12100);
+    QTest::newRow("wider than an int") << 12.0f << 0.0f << 1e9f << 0.0f << 0.0f << QSize();
     QTest::newRow("not a number") << 12.0f << 0.0f << std::nanf("") << 0.0f << 0.0f << QSize();
 }
 
@@ -313,11 +362,172 @@ void tst_LayoutPreview::gridGuards()
     QVERIFY(LayoutPreview::DrawGrid(100000, 100000, 0, {}, QBrush(kBackground)).isNull());
     // A long single row shrinks its cells to stay within the largest side.
     const QPixmap row = LayoutPreview::DrawGrid(1, 400, 0, {}, QBrush(kBackground));
-    const int cell = (LayoutPreview::MaxSide - 4) / 400;
+    const int cell = (LayoutPreview::GridFitSide - 4) / 400;
     QCOMPARE(LayoutPreview::GridCellSize(1, 400), cell);
     QCOMPARE(row.size(), QSize(400 * cell + 4, cell + 4));
-    QVERIFY(row.width() <= LayoutPreview::MaxSide);
+    QVERIFY(row.width() <= LayoutPreview::GridFitSide);
     QCOMPARE(LayoutPreview::GridCellSize(4, 5), 96);
+    // Cells stop shrinking at 16 pixels; a longer grid is beyond what DrawGrid
+    // paints whole (PreviewGrid draws it scaled).
+    QCOMPARE(LayoutPreview::GridCanvasSize(1, 2500), QSize(2500 * 16 + 4, 20));
+    QVERIFY(LayoutPreview::DrawGrid(1, 2500, 0, {}, QBrush(kBackground)).isNull());
+    QCOMPARE(LayoutPreview::GridCanvasSize(1, 20000), QSize(20000 * 16 + 4, 20));
+    QVERIFY(!LayoutPreview::GridCanvasSize(1, 20001).isValid());
+    QVERIFY(!LayoutPreview::GridCanvasSize(0, 3).isValid());
+}
+
+void tst_LayoutPreview::paintable_data()
+{
+    QTest::addColumn<qint64>("width");
+    QTest::addColumn<qint64>("height");
+    QTest::addColumn<bool>("paintable");
+    QTest::newRow("32767 wide") << qint64(32767) << qint64(100) << true;
+    QTest::newRow("32768 wide") << qint64(32768) << qint64(100) << false;
+    QTest::newRow("32767 high") << qint64(100) << qint64(32767) << true;
+    QTest::newRow("32768 high") << qint64(100) << qint64(32768) << false;
+    QTest::newRow("exactly 512 MiB") << qint64(16384) << qint64(8192) << true;
+    QTest::newRow("one row beyond 512 MiB") << qint64(16384) << qint64(8193) << false;
+    QTest::newRow("largest square") << qint64(11585) << qint64(11585) << true;
+    QTest::newRow("both sides at the limit") << qint64(32767) << qint64(32767) << false;
+    QTest::newRow("empty") << qint64(0) << qint64(100) << false;
+    QTest::newRow("negative") << qint64(100) << qint64(-1) << false;
+}
+
+void tst_LayoutPreview::paintable()
+{
+    QFETCH(qint64, width);
+    QFETCH(qint64, height);
+    QFETCH(bool, paintable);
+    QCOMPARE(LayoutPreview::Paintable(width, height), paintable);
+}
+
+void tst_LayoutPreview::largestPaintable_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("largest");
+    QTest::newRow("paintable stays") << QSize(32767, 100) << QSize(32767, 100);
+    QTest::newRow("one pixel too wide") << QSize(32768, 100) << QSize(32767, 99);
+    QTest::newRow("twice too wide") << QSize(65534, 200) << QSize(32767, 100);
+    QTest::newRow("twice too high") << QSize(300, 65534) << QSize(150, 32767);
+    QTest::newRow("800 MB") << QSize(20000, 10000) << QSize(16384, 8192);
+    QTest::newRow("very long and thin") << QSize(2000000000, 2) << QSize(32767, 1);
+    QTest::newRow("invalid") << QSize() << QSize();
+}
+
+void tst_LayoutPreview::largestPaintable()
+{
+    QFETCH(QSize, size);
+    QFETCH(QSize, largest);
+    const QSize result = LayoutPreview::LargestPaintable(size);
+    QCOMPARE(result, largest);
+    if (result.isValid())
+        QVERIFY(LayoutPreview::Paintable(result.width(), result.height()));
+}
+
+void tst_LayoutPreview::previewOfShots_data()
+{
+    QTest::addColumn<QVector<ShootData>>("shots");
+    QTest::addColumn<float>("yawMin");
+    QTest::addColumn<float>("yawMax");
+    QTest::addColumn<float>("pitchMin");
+    QTest::addColumn<float>("pitchMax");
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<QSize>("shown");
+    // True when the canvas is paintable, so that the preview is the full-size
+    // drawing zoomed, to the pixel.
+    QTest::addColumn<bool>("whole");
+    const QVector<ShootData> turns = MultiTurnShots();
+    const QVector<ShootData> unit = OnePixelADegree();
+    // 1621 degrees x 12 + 100 = 19552 by 2 x 12 + 100 = 124.
+    QTest::newRow("multi-turn script at 50 %")
+        << turns << 117.0f << 1738.0f << 0.0f << 2.0f << 50 << QSize(9776, 62) << true;
+    QTest::newRow("multi-turn script at 100 %")
+        << turns << 117.0f << 1738.0f << 0.0f << 2.0f << 100 << QSize(19552, 124) << true;
+    QTest::newRow("multi-turn script at 1 %")
+        << turns << 117.0f << 1738.0f << 0.0f << 2.0f << 1 << QSize(195, 1) << true;
+    QTest::newRow("32767 wide at 50 %")
+        << unit << 0.0f << 32667.0f << 0.0f << 0.0f << 50 << QSize(16383, 50) << true;
+    QTest::newRow("32767 wide at 100 %")
+        << unit << 0.0f << 32667.0f << 0.0f << 0.0f << 100 << QSize(32767, 100) << true;
+    QTest::newRow("32768 wide at 50 %")
+        << unit << 0.0f << 32668.0f << 0.0f << 0.0f << 50 << QSize(16384, 50) << false;
+    QTest::newRow("32768 wide at 100 %")
+        << unit << 0.0f << 32668.0f << 0.0f << 0.0f << 100 << QSize(32767, 99) << false;
+    QTest::newRow("32767 high at 50 %")
+        << unit << 0.0f << 96.0f << 0.0f << 32667.0f << 50 << QSize(98, 16383) << true;
+    QTest::newRow("32768 high at 50 %")
+        << unit << 0.0f << 96.0f << 0.0f << 32668.0f << 50 << QSize(98, 16384) << false;
+    QTest::newRow("32768 high at 100 %")
+        << unit << 0.0f << 96.0f << 0.0f << 32668.0f << 100 << QSize(195, 32767) << false;
+    QTest::newRow("exactly 512 MiB at 10 %")
+        << unit << 0.0f << 16284.0f << 0.0f << 8092.0f << 10 << QSize(1638, 819) << true;
+    QTest::newRow("beyond 512 MiB at 50 %")
+        << unit << 0.0f << 19900.0f << 0.0f << 9900.0f << 50 << QSize(10000, 5000) << false;
+    QTest::newRow("beyond 512 MiB at 100 %")
+        << unit << 0.0f << 19900.0f << 0.0f << 9900.0f << 100 << QSize(16384, 8192) << false;
+    QTest::newRow("far beyond at 1 %")
+        << unit << 0.0f << 99900.0f << 0.0f << 0.0f << 1 << QSize(1000, 1) << false;
+}
+
+void tst_LayoutPreview::previewOfShots()
+{
+    QFETCH(QVector<ShootData>, shots);
+    QFETCH(float, yawMin);
+    QFETCH(float, yawMax);
+    QFETCH(float, pitchMin);
+    QFETCH(float, pitchMax);
+    QFETCH(int, percent);
+    QFETCH(QSize, shown);
+    QFETCH(bool, whole);
+    TestImageDef red;
+    red.m_thumbnail = QPixmap(16, 16);
+    red.m_thumbnail.fill(Qt::red);
+    const QList<ZIImageDef*> images { &red };
+    const QBrush background(kBackground);
+    const QPixmap preview = LayoutPreview::PreviewShots(
+        shots, images, yawMin, yawMax, pitchMin, pitchMax, background, percent);
+    QCOMPARE(preview.size(), shown);
+    QVERIFY(HasMarks(preview));
+    const QPixmap canvas
+        = LayoutPreview::DrawShots(shots, images, yawMin, yawMax, pitchMin, pitchMax, background);
+    QCOMPARE(!canvas.isNull(), whole);
+    if (whole)
+        QCOMPARE(preview.toImage(), LayoutPreview::Zoom(canvas, percent).toImage());
+}
+
+void tst_LayoutPreview::previewOfGrids_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<QSize>("shown");
+    QTest::addColumn<bool>("whole");
+    QTest::newRow("4 x 5 at 50 %") << 4 << 5 << 50 << QSize(242, 194) << true;
+    // 1109 photos, a prime: one row of 16-pixel cells, 17748 pixels long.
+    QTest::newRow("one row of 1109 at 100 %") << 1 << 1109 << 100 << QSize(17748, 20) << true;
+    // 2047 cells of 16 pixels + 4 = 32756; 2048 cells make 32772.
+    QTest::newRow("2047 rows at 100 %") << 2047 << 1 << 100 << QSize(20, 32756) << true;
+    QTest::newRow("2048 rows at 50 %") << 2048 << 1 << 50 << QSize(10, 16386) << false;
+    QTest::newRow("2048 rows at 100 %") << 2048 << 1 << 100 << QSize(19, 32767) << false;
+    // 320004 x 20 at 50 % is 160002 x 10, beyond 32767: the largest paintable.
+    QTest::newRow("20000 columns at 50 %") << 1 << 20000 << 50 << QSize(32767, 2) << false;
+}
+
+void tst_LayoutPreview::previewOfGrids()
+{
+    QFETCH(int, rows);
+    QFETCH(int, columns);
+    QFETCH(int, percent);
+    QFETCH(QSize, shown);
+    QFETCH(bool, whole);
+    const QBrush background(kBackground);
+    const QPixmap preview = LayoutPreview::PreviewGrid(rows, columns, 0, {}, background, percent);
+    QCOMPARE(preview.size(), shown);
+    QVERIFY(HasMarks(preview));
+    const QPixmap canvas = LayoutPreview::DrawGrid(rows, columns, 0, {}, background);
+    QCOMPARE(!canvas.isNull(), whole);
+    if (whole)
+        QCOMPARE(preview.toImage(), LayoutPreview::Zoom(canvas, percent).toImage());
 }
 
 ZPH_PAGE_TEST_MAIN(tst_LayoutPreview)

@@ -1,6 +1,8 @@
 // The Clauss Rodeon import page, used as a user would: its form, the combined
 // script-and-photos dialog, the image dialog, the theta and phi ranges and
 // their inversion, the error box, the preview and the record handed over.
+#include "ClaussToSPP.h"
+#include "LayoutPreview.h"
 #include "PageTestHost.h"
 #include "PageTestSupport.h"
 #include "ReadingThread.h"
@@ -20,17 +22,12 @@
 #include <cfloat>
 #include <memory>
 
-class tst_UIWPClauss : public QObject
+class tst_UIWPClauss : public PageTest<UIWPClauss>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void pictureIsShownWhenItExists();
     void scriptAndPhotosInOneDialog();
     void onlyPhotosOrOnlyAScript();
@@ -44,46 +41,12 @@ private slots:
     void validateWithoutHostImportsNothing();
     void controlKeyOpensTheScriptsFolder();
     void previewDrawsEveryTimeInKeyOrder();
+    void multiTurnScriptIsPreviewed_data();
+    void multiTurnScriptIsPreviewed();
 
 private:
-    UIWPClauss* NewPage();
     QStringList AddPhotos(int count, float focal, const QString& stem = "photo");
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPClauss> m_page;
 };
-
-void tst_UIWPClauss::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPClauss::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPClauss* tst_UIWPClauss::NewPage()
-{
-    m_page = std::make_unique<UIWPClauss>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPClauss::AddPhotos(int count, float focal, const QString& stem)
 {
@@ -143,36 +106,6 @@ void tst_UIWPClauss::formMatchesTheDesign()
     QCOMPARE(zoom->value(), 50);
     QVERIFY(Child<QLineEdit>(page, "m_leConfigFile")->completer());
     QVERIFY(!page->isComplete());
-}
-
-void tst_UIWPClauss::tabOrder()
-{
-    UIWPClauss* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leConfigFile", "m_pbSelectConfigFile",
-        "m_pbReset", "m_pInverseCoordinates", "m_leImage", "m_pbSelectImages", "m_autoStart",
-        "m_cleanLink", "m_noOptim", "m_GridOptim", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPClauss::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPClauss* page = NewPage();
-    QCOMPARE(
-        Child<QLabel>(page, "label")->text(), QStringLiteral("[UIWPClaussClass] Script file:"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("[UIWPClauss] N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbImageLog")->text(), QStringLiteral("[UIWPClauss] N/A"));
-    // The range labels' "N/A" is not translated.
-    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPhiMinMax")->text(), QStringLiteral("N/A"));
 }
 
 void tst_UIWPClauss::pictureIsShownWhenItExists()
@@ -447,6 +380,47 @@ void tst_UIWPClauss::previewDrawsEveryTimeInKeyOrder()
     page->RestoreState(QByteArray("x"));
     QVERIFY(PreviewPixmap(page).cacheKey() != drawn);
     QVERIFY(page->SaveState().isEmpty());
+}
+
+void tst_UIWPClauss::multiTurnScriptIsPreviewed_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<QSize>("shown");
+    // Yaw 117 to 1738, pitch 0 to 2, 12 pixels a degree: a canvas of
+    // 1621 x 12 + 100 = 19552 by 124 pixels.
+    QTest::newRow("50 %") << 50 << QSize(9776, 62);
+    QTest::newRow("100 %") << 100 << QSize(19552, 124);
+    QTest::newRow("7 %") << 7 << QSize(1368, 8);
+}
+
+void tst_UIWPClauss::multiTurnScriptIsPreviewed()
+{
+    QFETCH(int, zoom);
+    QFETCH(QSize, shown);
+    UIWPClauss* page = NewPage();
+    const QString script = m_folder->AddFixture("clauss_multiturn.txt");
+    ClickAndChooseFiles(Child<QPushButton>(page, "m_pbSelectConfigFile"), { script });
+    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("38"));
+    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("117,1738"));
+    Child<QSlider>(page, "m_hSlider")->setValue(zoom);
+    const QPixmap preview = PreviewPixmap(page);
+    QCOMPARE(preview.size(), shown);
+    // Exactly the full-size drawing of the script's shots, zoomed.
+    ClaussToSPP converter;
+    QVERIFY(converter.parse(script));
+    const QPixmap canvas = LayoutPreview::DrawShots(converter.m_shots, {}, 117, 1738, 0, 2,
+        page->palette().brush(QPalette::Window));
+    QCOMPARE(canvas.size(), QSize(19552, 124));
+    const QImage expected = LayoutPreview::Zoom(canvas, zoom).toImage();
+    QCOMPARE(preview.toImage(), expected);
+    // Not blank: the cells' outlines and labels differ from the background.
+    const QColor background = page->palette().color(QPalette::Window);
+    int marks = 0;
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x)
+            marks += expected.pixelColor(x, y) != background ? 1 : 0;
+    }
+    QVERIFY2(marks > 0, "the preview shows only the background");
 }
 
 ZPH_PAGE_TEST_MAIN(tst_UIWPClauss)

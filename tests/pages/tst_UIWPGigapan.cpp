@@ -37,17 +37,12 @@ AuthorizedLink Link(int direction, int from, int to)
 
 } // namespace
 
-class tst_UIWPGigapan : public QObject
+class tst_UIWPGigapan : public PageTest<UIWPGigapan>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void gridProposal_data();
     void gridProposal();
     void gridEditsRecomputeTheColumns();
@@ -62,45 +57,9 @@ private slots:
     void linkingButtonsConstrainEachOther();
 
 private:
-    UIWPGigapan* NewPage();
     QStringList AddPhotos(int count, const QString& stem = "photo");
     bool Choose(const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPGigapan> m_page;
 };
-
-void tst_UIWPGigapan::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPGigapan::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPGigapan* tst_UIWPGigapan::NewPage()
-{
-    m_page = std::make_unique<UIWPGigapan>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPGigapan::AddPhotos(int count, const QString& stem)
 {
@@ -186,34 +145,6 @@ void tst_UIWPGigapan::formMatchesTheDesign()
     QCOMPARE(Child<QWidget>(page, "m_rbMode3")->y(), Child<QWidget>(page, "m_rbMode0")->y());
     QCOMPARE(Child<QWidget>(page, "m_rbMode2")->y(), Child<QWidget>(page, "m_rbMode1")->y());
     QVERIFY(!page->isComplete());
-}
-
-void tst_UIWPGigapan::tabOrder()
-{
-    UIWPGigapan* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leImage", "m_pbSelectImages", "m_pbReset",
-        "m_sbRow", "m_sbColumn", "m_sbIgnore", "m_sbBracket", "m_rbMode3", "m_rbMode0", "m_rbMode2",
-        "m_rbMode1", "m_cbIS360", "m_dsbOverlapping", "m_rbLevelLinking0", "m_rbLevelLinking1",
-        "m_rbStackLinking0", "m_rbStackLinking1", "m_autoStart", "m_cleanLink", "m_noOptim",
-        "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPGigapan::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPGigapan* page = NewPage();
-    QCOMPARE(Child<QLabel>(page, "label_6")->text(), QStringLiteral("[UIWPGigapanClass] Images :"));
-    QCOMPARE(
-        Child<QLabel>(page, "m_lbImage")->text(), QStringLiteral("0 [UIWPGigapan] images in "));
 }
 
 void tst_UIWPGigapan::gridProposal_data()

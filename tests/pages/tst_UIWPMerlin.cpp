@@ -40,17 +40,12 @@ QString Warning(const QString& text)
 
 } // namespace
 
-class tst_UIWPMerlin : public QObject
+class tst_UIWPMerlin : public PageTest<UIWPMerlin>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
-    void tabOrder();
-    void textsAreTranslatedUnderTheirContexts();
     void subtitleLinkTakesTheThemeColour();
     void chooseRecordAndPhotosInOneDialog();
     void imageDialogSortsAndTellsTheHost();
@@ -85,48 +80,12 @@ private slots:
     void unreadablePhotosKeepThePageIncomplete();
 
 private:
-    UIWPMerlin* NewPage();
     /// Registers photos with the host: focal, lens, keys 1, 2, 3 ... and
     /// distinct colours; returns their paths.
     QStringList AddPhotos(int count, float focal, int lens, const QString& stem = "photo");
     /// Chooses `fixture` and `photos` in the combined dialog and waits for the reading.
     bool Open(const QString& fixture, const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPMerlin> m_page;
 };
-
-void tst_UIWPMerlin::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPMerlin::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPMerlin* tst_UIWPMerlin::NewPage()
-{
-    m_page = std::make_unique<UIWPMerlin>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPMerlin::AddPhotos(int count, float focal, int lens, const QString& stem)
 {
@@ -248,40 +207,6 @@ void tst_UIWPMerlin::formMatchesTheDesign()
     QVERIFY(!page->isComplete());
     QVERIFY(ReaderOf(page));
     QCOMPARE(ReaderOf(page)->parent(), page);
-}
-
-void tst_UIWPMerlin::tabOrder()
-{
-    UIWPMerlin* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leConfigFile", "m_pbSelectConfigFile",
-        "m_pbReset", "m_leImage", "m_pbSelectImages", "m_pInverseCoordinates", "m_pbRot270",
-        "m_pbRot90", "m_spFocal", "m_cbLensType", "m_pbFLUseXML", "m_pbFLUseImage",
-        "m_rbLevelLinking0", "m_rbLevelLinking1", "m_rbStackLinking0", "m_rbStackLinking1",
-        "m_autoStart", "m_cleanLink", "m_noOptim", "m_GridOptim", "m_leHeaderTitle",
-        "m_leHeaderGps", "m_leHeaderComment", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
-}
-
-void tst_UIWPMerlin::textsAreTranslatedUnderTheirContexts()
-{
-    ContextTranslator translator;
-    UIWPMerlin* page = NewPage();
-    QCOMPARE(Child<QLabel>(page, "label")->text(), QStringLiteral("[UIWPMerlinClass] XML:"));
-    QCOMPARE(page->title(), QStringLiteral("[UIWPMerlinClass] Papywizard import"));
-    QCOMPARE(
-        Child<QComboBox>(page, "m_cbLensType")->itemText(1), QStringLiteral("[UIWPPage] Fisheye"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPapyLog")->text(), QStringLiteral("[UIWPXmlPage] N/A"));
-    // The yaw label's "N/A" is not translated, the pitch label's is.
-    QCOMPARE(Child<QLabel>(page, "m_lbThetaMinMax")->text(), QStringLiteral("N/A"));
-    QCOMPARE(Child<QLabel>(page, "m_lbPhiMinMax")->text(), QStringLiteral("[UIWPXmlPage] N/A"));
 }
 
 void tst_UIWPMerlin::subtitleLinkTakesTheThemeColour()

@@ -31,16 +31,12 @@ QString Warning(const QString& text)
 
 } // namespace
 
-class tst_UIWPVRDrive2 : public QObject
+class tst_UIWPVRDrive2 : public PageTest<UIWPVRDrive2>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void formMatchesTheDesign();
-    void tabOrder();
     void logoIsShownWhenThePictureExists();
     void failedPresetKeepsTheEarlierRange();
     void focalWarningSaysLength();
@@ -52,45 +48,9 @@ private slots:
     void sharedBehaviour();
 
 private:
-    UIWPVRDrive2* NewPage();
     QStringList AddBracketedPhotos(int positions, float focal);
     bool Open(const QString& fixture, const QStringList& photos);
-
-    PageTestHost* m_host = nullptr;
-    std::unique_ptr<FixtureFolder> m_folder;
-    std::unique_ptr<UIWPVRDrive2> m_page;
 };
-
-void tst_UIWPVRDrive2::init()
-{
-    m_host = PageTestHost::instance();
-    m_host->StopHolding();
-    m_host->SetInterfaceHidden(false);
-    m_folder = std::make_unique<FixtureFolder>();
-    QVERIFY(m_folder->isValid());
-    m_host->SetFolder(m_folder->path());
-    m_host->ClearCalls();
-    m_host->ClearImports();
-}
-
-void tst_UIWPVRDrive2::cleanup()
-{
-    m_host->StopHolding();
-    if (m_page) {
-        ReaderOf(m_page.get())->wait(10000);
-        m_page.reset();
-    }
-    m_host->ForgetImages();
-    m_folder.reset();
-}
-
-UIWPVRDrive2* tst_UIWPVRDrive2::NewPage()
-{
-    m_page = std::make_unique<UIWPVRDrive2>();
-    m_page->resize(700, 700);
-    m_page->show();
-    return m_page.get();
-}
 
 QStringList tst_UIWPVRDrive2::AddBracketedPhotos(int positions, float focal)
 {
@@ -167,26 +127,6 @@ void tst_UIWPVRDrive2::formMatchesTheDesign()
     QCOMPARE(zoom->maximum(), 100);
     QCOMPARE(zoom->value(), 50);
     QCOMPARE(Child<QPushButton>(page, "m_pbRot90")->iconSize(), QSize(32, 32));
-}
-
-void tst_UIWPVRDrive2::tabOrder()
-{
-    UIWPVRDrive2* page = NewPage();
-    const QStringList expected = { "tabWidget", "m_leImage", "m_pbSelectImages", "m_leConfigFile",
-        "m_pbSelectConfigFile", "m_pbReset", "m_rbOutputMode1", "m_rbOutputMode2",
-        "m_pInverseCoordinates", "m_pbRot270", "m_pbRot90", "m_spFocal", "m_cbLensType",
-        "m_pbFLUseXML", "m_pbFLUseImage", "m_rbLevelLinking0", "m_rbLevelLinking1",
-        "m_rbStackLinking0", "m_rbStackLinking1", "m_autoStart", "m_cleanLink", "m_noOptim",
-        "m_GridOptim", "m_saPreview", "m_hSlider" };
-    QStringList chain;
-    QWidget* start = Child<QWidget>(page, "tabWidget");
-    QWidget* w = start;
-    do {
-        if (expected.contains(w->objectName()) && !chain.contains(w->objectName()))
-            chain << w->objectName();
-        w = w->nextInFocusChain();
-    } while (w && w != start);
-    QCOMPARE(chain, expected);
 }
 
 void tst_UIWPVRDrive2::logoIsShownWhenThePictureExists()

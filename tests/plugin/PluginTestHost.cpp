@@ -5,11 +5,8 @@
 #include <QMutexLocker>
 
 PluginTestHost::PluginTestHost(int& argc, char** argv)
-    : QApplication(argc, argv), m_locale(QLocale::English, QLocale::UnitedStates)
+    : RecordingHost(argc, argv), m_locale(QLocale::English, QLocale::UnitedStates)
 {
-    // The tests drive Qt's own file dialog.
-    m_uiSettings.useSystemFileDialog = false;
-    m_uiInstances.settings = &m_uiSettings;
 }
 
 PluginTestHost::~PluginTestHost()
@@ -18,15 +15,10 @@ PluginTestHost::~PluginTestHost()
     qDeleteAll(m_imageDefs);
 }
 
-QString PluginTestHost::DefaultFolder()
-{
-    return m_defaultFolder;
-}
-
 void PluginTestHost::SetDefaultFolder(const QString& path)
 {
-    m_defaultFolderCalls.append(path);
-    m_defaultFolder = QFileInfo(path).absolutePath();
+    RecordingHost::SetDefaultFolder(path);
+    SetFolder(QFileInfo(path).absolutePath());
 }
 
 QVariant PluginTestHost::GetSetting(
@@ -91,14 +83,8 @@ ZIImageDef* PluginTestHost::CreateImageDef(const QString& path)
 
 void PluginTestHost::ImportStructuredPanorama(const StructuredPanoramaProperties& properties)
 {
-    m_imports.append(properties);
+    RecordingHost::ImportStructuredPanorama(properties);
     m_events.append(QStringLiteral("import"));
-}
-
-ZUIInstances* PluginTestHost::UIInstances()
-{
-    ++m_uiInstancesCalls;
-    return &m_uiInstances;
 }
 
 void PluginTestHost::Reset()
@@ -108,10 +94,9 @@ void PluginTestHost::Reset()
     m_sets.clear();
     m_events.clear();
     m_translationRequests.clear();
-    m_defaultFolderCalls.clear();
-    m_imports.clear();
-    m_uiInstancesCalls = 0;
-    m_uiSettings.useSystemFileDialog = false;
+    ClearCalls();
+    ClearImports();
+    SetSystemFileDialog(false);
     m_locale = QLocale(QLocale::English, QLocale::UnitedStates);
     RemoveTranslation();
 }

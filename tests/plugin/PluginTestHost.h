@@ -1,16 +1,14 @@
 // PluginTestHost: the application object of the plug-in tests, a host as the
-// library sees it. It stores settings in memory, loads the library's
-// translation catalogues from its resources as a host does (falling back from
-// language and country to the language), makes image definitions from a table
-// the test fills, and records every call the library makes.
+// library sees it. A RecordingHost that also stores settings in memory, loads
+// the library's translation catalogues from its resources as a host does
+// (falling back from language and country to the language), makes image
+// definitions from a table the test fills, and keeps the order of settings,
+// hand-overs and what the tests add in one list of events.
 #pragma once
 
-#include "StructuredPanoramaProperties.h"
+#include "RecordingHost.h"
 #include "TestImageDef.h"
-#include "ZIApplication.h"
-#include "ZUIInstances.h"
 
-#include <QApplication>
 #include <QByteArray>
 #include <QHash>
 #include <QList>
@@ -24,16 +22,15 @@
 
 #include <memory>
 
-class PluginTestHost : public QApplication, public ZIApplication
+class PluginTestHost : public RecordingHost
 {
     Q_OBJECT
-    Q_INTERFACES(ZIApplication)
 
 public:
     PluginTestHost(int& argc, char** argv);
     ~PluginTestHost() override;
 
-    QString DefaultFolder() override;
+    /// Recorded; the path's folder becomes the default folder.
     void SetDefaultFolder(const QString& path) override;
     QVariant GetSetting(
         const QString& section, const QString& key, const QVariant& defaultValue) override;
@@ -46,8 +43,8 @@ public:
     /// Any thread. A new definition with the values registered for the path
     /// (SetImage) or zeros; null for a path registered as unreadable.
     ZIImageDef* CreateImageDef(const QString& path) override;
+    /// Recorded, and "import" in the events.
     void ImportStructuredPanorama(const StructuredPanoramaProperties& properties) override;
-    ZUIInstances* UIInstances() override;
 
     struct SettingCall
     {
@@ -69,18 +66,12 @@ public:
     /// Every GetSetting call; `value` is the default that was passed.
     QList<SettingCall> m_gets;
     QList<SettingCall> m_sets;
-    /// Every call, in order: "get:<key>", "set:<key>", and what the tests add.
+    /// In order: "get:<key>", "set:<key>", "import", and what the tests add.
     QStringList m_events;
     QLocale m_locale;
     QStringList m_translationRequests;
     /// The resource path of the installed catalogue; empty when none.
     QString m_installedTranslation;
-    QString m_defaultFolder;
-    QStringList m_defaultFolderCalls;
-    int m_uiInstancesCalls = 0;
-    QList<StructuredPanoramaProperties> m_imports;
-    ZUISettings m_uiSettings;
-    ZUIInstances m_uiInstances;
 
 private:
     struct ImageValues

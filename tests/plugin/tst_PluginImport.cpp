@@ -130,7 +130,7 @@ void tst_PluginImport::init()
     Host()->Reset();
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
-    Host()->m_defaultFolder = m_folder->path();
+    Host()->SetFolder(m_folder->path());
 }
 
 void tst_PluginImport::cleanup()
@@ -222,12 +222,13 @@ void tst_PluginImport::gigapanGrid()
         names.append(QStringLiteral("grid_%1.jpg").arg(i));
     QVERIFY(MakeFiles(names));
     // The host's UI settings, passed on by the library, choose Qt's dialog.
-    Host()->m_uiSettings.useSystemFileDialog = false;
+    Host()->SetSystemFileDialog(false);
     bool qtDialog = false;
     QVERIFY(ChooseFiles(page, "m_pbSelectImages", names, &qtDialog));
     QVERIFY(qtDialog);
     const QDir folder(m_folder->path());
-    QCOMPARE(Host()->m_defaultFolderCalls, QStringList { folder.filePath(names.first()) });
+    QCOMPARE(Host()->CallsStartingWith(QStringLiteral("SetDefaultFolder(")),
+        QStringList { QStringLiteral("SetDefaultFolder(%1)").arg(folder.filePath(names.first())) });
 
     // The host reads the six photographs on the page's thread.
     QVERIFY(WaitForReading(page));
@@ -235,8 +236,8 @@ void tst_PluginImport::gigapanGrid()
     // Finishing the wizard validates the page, which hands over the record.
     m_wizard->accept();
     QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
-    QCOMPARE(Host()->m_imports.size(), 1);
-    const StructuredPanoramaProperties& record = Host()->m_imports.at(0);
+    QCOMPARE(Host()->Imports().size(), 1);
+    const StructuredPanoramaProperties record = Host()->Imports().at(0);
 
     // Six photographs make a grid of 2 rows and 3 columns, shot column by
     // column: one stack per photograph, in shooting order.
@@ -280,7 +281,7 @@ void tst_PluginImport::papywizardRecord()
         QStringLiteral("img3.jpg"), QStringLiteral("img4.jpg") };
     QVERIFY(MakeFiles(images));
     // This time the host's UI settings ask for the system's dialog.
-    Host()->m_uiSettings.useSystemFileDialog = true;
+    Host()->SetSystemFileDialog(true);
     bool qtDialog = true;
     QVERIFY(ChooseFiles(page, "m_pbSelectConfigFile", QStringList { record } + images, &qtDialog));
     QVERIFY(!qtDialog);
@@ -288,8 +289,8 @@ void tst_PluginImport::papywizardRecord()
 
     m_wizard->accept();
     QCOMPARE(m_wizard->result(), int(QDialog::Accepted));
-    QCOMPARE(Host()->m_imports.size(), 1);
-    const StructuredPanoramaProperties& out = Host()->m_imports.at(0);
+    QCOMPARE(Host()->Imports().size(), 1);
+    const StructuredPanoramaProperties out = Host()->Imports().at(0);
 
     const QDir folder(m_folder->path());
     QCOMPARE(out.m_stacks.size(), 4);

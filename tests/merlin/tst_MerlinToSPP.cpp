@@ -256,7 +256,7 @@ struct Grid
 
 Q_DECLARE_METATYPE(Grid)
 
-class TestMerlinToSPP : public QObject
+class tst_MerlinToSPP : public QObject
 {
     Q_OBJECT
 
@@ -301,7 +301,7 @@ private slots:
     void generateLinksEveryNeighbourOnce();
 };
 
-void TestMerlinToSPP::constructorSetsRecordDefaults()
+void tst_MerlinToSPP::constructorSetsRecordDefaults()
 {
     const MerlinToSPP record;
     QCOMPARE(record.m_useShootData, true);
@@ -319,7 +319,7 @@ void TestMerlinToSPP::constructorSetsRecordDefaults()
     verifyResetValues(record);
 }
 
-void TestMerlinToSPP::ownMembersFollowTheRecord()
+void tst_MerlinToSPP::ownMembersFollowTheRecord()
 {
     // The record is the converter's first part; its own members follow in this order.
     MerlinToSPP record;
@@ -346,7 +346,7 @@ void TestMerlinToSPP::ownMembersFollowTheRecord()
     static_assert(std::is_same_v<decltype(record.m_xmlLensType), qint32>);
 }
 
-void TestMerlinToSPP::parseReadsHeader_data()
+void tst_MerlinToSPP::parseReadsHeader_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("title");
@@ -407,7 +407,7 @@ void TestMerlinToSPP::parseReadsHeader_data()
         << -1.0 << -1 << 0 << false << 1;
 }
 
-void TestMerlinToSPP::parseReadsHeader()
+void tst_MerlinToSPP::parseReadsHeader()
 {
     QFETCH(QString, file);
     QFETCH(QString, title);
@@ -433,7 +433,7 @@ void TestMerlinToSPP::parseReadsHeader()
     QCOMPARE(record.m_shoots.size(), shots);
 }
 
-void TestMerlinToSPP::parseReadsShots_data()
+void tst_MerlinToSPP::parseReadsShots_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QVector<int>>("ids");
@@ -479,7 +479,7 @@ void TestMerlinToSPP::parseReadsShots_data()
         << QVector<float> { 10.5f, 40.5f } << QVector<float> { -20.25f, -20.25f };
 }
 
-void TestMerlinToSPP::parseReadsShots()
+void tst_MerlinToSPP::parseReadsShots()
 {
     QFETCH(QString, file);
     QFETCH(QVector<int>, ids);
@@ -502,7 +502,7 @@ void TestMerlinToSPP::parseReadsShots()
     }
 }
 
-void TestMerlinToSPP::parseReadsTextDateTimes()
+void tst_MerlinToSPP::parseReadsTextDateTimes()
 {
     MerlinToSPP record;
     QVERIFY(record.parse(fixture("times.xml")));
@@ -521,7 +521,7 @@ void TestMerlinToSPP::parseReadsTextDateTimes()
     QVERIFY(!record.m_shoots.at(2).m_time.isValid());
 }
 
-void TestMerlinToSPP::parseTwiceReplacesShots()
+void tst_MerlinToSPP::parseTwiceReplacesShots()
 {
     MerlinToSPP record;
     QVERIFY(record.parse(fixture("complete.xml")));
@@ -547,7 +547,7 @@ void TestMerlinToSPP::parseTwiceReplacesShots()
     QCOMPARE(record.m_xmlLensType, 0);
 }
 
-void TestMerlinToSPP::parseLeavesRecordFieldsAlone()
+void tst_MerlinToSPP::parseLeavesRecordFieldsAlone()
 {
     MerlinToSPP record;
     record.m_focalLength = 42.0f;
@@ -564,7 +564,7 @@ void TestMerlinToSPP::parseLeavesRecordFieldsAlone()
     QCOMPARE(record.m_links.size(), 1);
 }
 
-void TestMerlinToSPP::parseRefusesBadInput_data()
+void tst_MerlinToSPP::parseRefusesBadInput_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("file");
@@ -589,7 +589,7 @@ void TestMerlinToSPP::parseRefusesBadInput_data()
         << QStringLiteral("oversized") << QString();
 }
 
-void TestMerlinToSPP::parseRefusesBadInput()
+void tst_MerlinToSPP::parseRefusesBadInput()
 {
     QFETCH(QString, kind);
     QFETCH(QString, file);
@@ -624,7 +624,7 @@ void TestMerlinToSPP::parseRefusesBadInput()
     verifyResetValues(record);
 }
 
-void TestMerlinToSPP::parseRefusesHundredMegabytesOfGarbage()
+void tst_MerlinToSPP::parseRefusesHundredMegabytesOfGarbage()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
@@ -640,7 +640,7 @@ void TestMerlinToSPP::parseRefusesHundredMegabytesOfGarbage()
     verifyResetValues(record);
 }
 
-void TestMerlinToSPP::parseReadsTenThousandShots()
+void tst_MerlinToSPP::parseReadsTenThousandShots()
 {
     constexpr int count = 10000;
     QTemporaryDir dir;
@@ -678,7 +678,7 @@ void TestMerlinToSPP::parseReadsTenThousandShots()
     }
 }
 
-void TestMerlinToSPP::generateGroupsImagesIntoStacks()
+void tst_MerlinToSPP::generateGroupsImagesIntoStacks()
 {
     MerlinToSPP record;
     record.m_nbPicts = 3;
@@ -697,7 +697,7 @@ void TestMerlinToSPP::generateGroupsImagesIntoStacks()
     QCOMPARE(describe(record.m_links), QStringList { QStringLiteral("2:0>1") });
 }
 
-void TestMerlinToSPP::generateStoresRadiansBitForBit_data()
+void tst_MerlinToSPP::generateStoresRadiansBitForBit_data()
 {
     QTest::addColumn<float>("degrees");
     QTest::addColumn<quint32>("radianBits");
@@ -719,7 +719,7 @@ void TestMerlinToSPP::generateStoresRadiansBitForBit_data()
     QTest::newRow("1e-30, float steps differ") << float(1e-30) << quint32(0x0ab53ecf);
 }
 
-void TestMerlinToSPP::generateStoresRadiansBitForBit()
+void tst_MerlinToSPP::generateStoresRadiansBitForBit()
 {
     QFETCH(float, degrees);
     QFETCH(quint32, radianBits);
@@ -735,7 +735,7 @@ void TestMerlinToSPP::generateStoresRadiansBitForBit()
     QCOMPARE(bitsOf(radians(degrees)), radianBits);
 }
 
-void TestMerlinToSPP::generateResolvesFocalAndLens_data()
+void tst_MerlinToSPP::generateResolvesFocalAndLens_data()
 {
     QTest::addColumn<double>("focalArgument");
     QTest::addColumn<double>("xmlFocal");
@@ -758,7 +758,7 @@ void TestMerlinToSPP::generateResolvesFocalAndLens_data()
         << 8.0 << 24.0 << 0 << 1 << 8.0f << 0;
 }
 
-void TestMerlinToSPP::generateResolvesFocalAndLens()
+void tst_MerlinToSPP::generateResolvesFocalAndLens()
 {
     QFETCH(double, focalArgument);
     QFETCH(double, xmlFocal);
@@ -777,7 +777,7 @@ void TestMerlinToSPP::generateResolvesFocalAndLens()
     QCOMPARE(int(record.m_lensModel), lens);
 }
 
-void TestMerlinToSPP::generateMakesNoLinksForFisheye_data()
+void tst_MerlinToSPP::generateMakesNoLinksForFisheye_data()
 {
     QTest::addColumn<int>("lensArgument");
     QTest::addColumn<int>("xmlLens");
@@ -785,7 +785,7 @@ void TestMerlinToSPP::generateMakesNoLinksForFisheye_data()
     QTest::newRow("fisheye from the record") << -1 << 1;
 }
 
-void TestMerlinToSPP::generateMakesNoLinksForFisheye()
+void tst_MerlinToSPP::generateMakesNoLinksForFisheye()
 {
     QFETCH(int, lensArgument);
     QFETCH(int, xmlLens);
@@ -803,7 +803,7 @@ void TestMerlinToSPP::generateMakesNoLinksForFisheye()
     QVERIFY(record.m_links.isEmpty());
 }
 
-void TestMerlinToSPP::generateLinks_data()
+void tst_MerlinToSPP::generateLinks_data()
 {
     QTest::addColumn<QVector<float>>("yaws");
     QTest::addColumn<QVector<float>>("pitches");
@@ -860,7 +860,7 @@ void TestMerlinToSPP::generateLinks_data()
         << QStringList { QStringLiteral("2:0>1"), QStringLiteral("2:1>0") };
 }
 
-void TestMerlinToSPP::generateLinks()
+void tst_MerlinToSPP::generateLinks()
 {
     QFETCH(QVector<float>, yaws);
     QFETCH(QVector<float>, pitches);
@@ -879,7 +879,7 @@ void TestMerlinToSPP::generateLinks()
         QCOMPARE(link.m_stackIndices.size(), 2);
 }
 
-void TestMerlinToSPP::boundaryRowsDependOnThePrecision()
+void tst_MerlinToSPP::boundaryRowsDependOnThePrecision()
 {
     // The edge rows above link only because of the precision of each step:
     // with the double alternative the same pair would not be linked.
@@ -919,7 +919,7 @@ void TestMerlinToSPP::boundaryRowsDependOnThePrecision()
     QVERIFY(std::atan2(double(dPitch), double(wrappedDouble)) > kPi / 4);
 }
 
-void TestMerlinToSPP::generateFromCompleteRecord()
+void tst_MerlinToSPP::generateFromCompleteRecord()
 {
     MerlinToSPP record;
     QVERIFY(record.parse(fixture("complete.xml")));
@@ -947,7 +947,7 @@ void TestMerlinToSPP::generateFromCompleteRecord()
             QStringLiteral("2:0>1"), QStringLiteral("1:0>2"), QStringLiteral("1:1>2") }));
 }
 
-void TestMerlinToSPP::generateAppendsWithoutClearing()
+void tst_MerlinToSPP::generateAppendsWithoutClearing()
 {
     MerlinToSPP record;
     record.m_stacks << QStringList { QStringLiteral("earlier.jpg") };
@@ -975,7 +975,7 @@ void TestMerlinToSPP::generateAppendsWithoutClearing()
         (QStringList { QStringLiteral("0:5>6"), QStringLiteral("2:0>1") }));
 }
 
-void TestMerlinToSPP::generateBoundsStacksBeyondTheShots()
+void tst_MerlinToSPP::generateBoundsStacksBeyondTheShots()
 {
     // Stacks whose first shot is not recorded have no position: no links.
     MerlinToSPP record;
@@ -1005,7 +1005,7 @@ void TestMerlinToSPP::generateBoundsStacksBeyondTheShots()
     QVERIFY(empty.m_links.isEmpty());
 }
 
-void TestMerlinToSPP::generateReadsMissingBracketingAsOne()
+void tst_MerlinToSPP::generateReadsMissingBracketingAsOne()
 {
     for (qint32 count : { -1, 0 }) {
         MerlinToSPP record;
@@ -1019,7 +1019,7 @@ void TestMerlinToSPP::generateReadsMissingBracketingAsOne()
     }
 }
 
-void TestMerlinToSPP::generateMatchesPairByPairEvaluation()
+void tst_MerlinToSPP::generateMatchesPairByPairEvaluation()
 {
     // Random layouts, dense ones with many links, sparse ones, positions on
     // the edge of the distance test and angles out of the usual ranges: the
@@ -1077,7 +1077,7 @@ void TestMerlinToSPP::generateMatchesPairByPairEvaluation()
     QVERIFY(totalLinks > 10000);
 }
 
-void TestMerlinToSPP::generateLinksEveryNeighbourOnce_data()
+void tst_MerlinToSPP::generateLinksEveryNeighbourOnce_data()
 {
     QTest::addColumn<Grid>("grid");
     QTest::addColumn<bool>("fisheye");
@@ -1140,7 +1140,7 @@ void TestMerlinToSPP::generateLinksEveryNeighbourOnce_data()
     QTest::newRow("5 x 1, one column") << column << false;
 }
 
-void TestMerlinToSPP::generateLinksEveryNeighbourOnce()
+void tst_MerlinToSPP::generateLinksEveryNeighbourOnce()
 {
     QFETCH(Grid, grid);
     QFETCH(bool, fisheye);
@@ -1200,5 +1200,5 @@ void TestMerlinToSPP::generateLinksEveryNeighbourOnce()
     QVERIFY(record.m_links.size() >= neighbours);
 }
 
-QTEST_GUILESS_MAIN(TestMerlinToSPP)
-#include "tst_merlintospp.moc"
+QTEST_GUILESS_MAIN(tst_MerlinToSPP)
+#include "tst_MerlinToSPP.moc"

@@ -100,7 +100,7 @@ AuthorizedLink makeLink(qint32 direction, int from, int to)
 
 } // namespace
 
-class TestStructuredPanoramaProperties : public QObject
+class tst_StructuredPanoramaProperties : public QObject
 {
     Q_OBJECT
 
@@ -112,7 +112,7 @@ private slots:
     void sourceChangesLeaveTheCopy();
 };
 
-void TestStructuredPanoramaProperties::defaultsFieldByField()
+void tst_StructuredPanoramaProperties::defaultsFieldByField()
 {
     const SPP record;
     QVERIFY(record.m_stacks.isEmpty());
@@ -146,7 +146,7 @@ void TestStructuredPanoramaProperties::defaultsFieldByField()
     QCOMPARE(record.m_flag4, false);
 }
 
-void TestStructuredPanoramaProperties::partsDefaults()
+void tst_StructuredPanoramaProperties::partsDefaults()
 {
     const ShootData shot;
     QCOMPARE(shot.m_reserved, qint64(0));
@@ -162,7 +162,7 @@ void TestStructuredPanoramaProperties::partsDefaults()
     QVERIFY(link.m_stackIndices.isEmpty());
 }
 
-void TestStructuredPanoramaProperties::fieldsInDeclaredOrder()
+void tst_StructuredPanoramaProperties::fieldsInDeclaredOrder()
 {
     const size_t record[] = {
         offsetof(SPP, m_stacks),
@@ -214,7 +214,7 @@ void TestStructuredPanoramaProperties::fieldsInDeclaredOrder()
     QCOMPARE(firstOutOfOrder(link), -1);
 }
 
-void TestStructuredPanoramaProperties::copyIsIndependentOfItsSource()
+void tst_StructuredPanoramaProperties::copyIsIndependentOfItsSource()
 {
     SPP source;
     source.m_stacks = { QStringList { QStringLiteral("/a/1.jpg"), QStringLiteral("/a/2.jpg") },
@@ -252,7 +252,7 @@ void TestStructuredPanoramaProperties::copyIsIndependentOfItsSource()
     QCOMPARE(source.m_text1, QStringLiteral("first"));
 }
 
-void TestStructuredPanoramaProperties::sourceChangesLeaveTheCopy()
+void tst_StructuredPanoramaProperties::sourceChangesLeaveTheCopy()
 {
     SPP source;
     source.m_yaw = { 1.0f };
@@ -267,5 +267,5 @@ void TestStructuredPanoramaProperties::sourceChangesLeaveTheCopy()
     QCOMPARE(copy.m_lensModel, LensUnknown);
 }
 
-QTEST_GUILESS_MAIN(TestStructuredPanoramaProperties)
-#include "tst_structuredpanoramaproperties.moc"
+QTEST_GUILESS_MAIN(tst_StructuredPanoramaProperties)
+#include "tst_StructuredPanoramaProperties.moc"

@@ -132,7 +132,7 @@ quint32 bitsOf(float value)
 
 } // namespace
 
-class TestInterfaces : public QObject
+class tst_Interfaces : public QObject
 {
     Q_OBJECT
 
@@ -150,7 +150,7 @@ private slots:
     void swappedAboutIsDetected();
 };
 
-void TestInterfaces::interfaceIdsAreTheBareNames_data()
+void tst_Interfaces::interfaceIdsAreTheBareNames_data()
 {
     QTest::addColumn<QByteArray>("iid");
     QTest::addColumn<QByteArray>("expected");
@@ -166,14 +166,14 @@ void TestInterfaces::interfaceIdsAreTheBareNames_data()
         << QByteArray(qobject_interface_iid<ZIPluginLibrary*>()) << QByteArray("ZIPluginLibrary");
 }
 
-void TestInterfaces::interfaceIdsAreTheBareNames()
+void tst_Interfaces::interfaceIdsAreTheBareNames()
 {
     QFETCH(QByteArray, iid);
     QFETCH(QByteArray, expected);
     QCOMPARE(iid, expected);
 }
 
-void TestInterfaces::applicationOperationsLandInOrder()
+void tst_Interfaces::applicationOperationsLandInOrder()
 {
     QStringList calls;
     const std::unique_ptr<QObject> host(ForeignHost::createApplication(&calls));
@@ -205,7 +205,7 @@ void TestInterfaces::applicationOperationsLandInOrder()
             QStringLiteral("UIInstances()") }));
 }
 
-void TestInterfaces::imageDefOperationsLandInOrder()
+void tst_Interfaces::imageDefOperationsLandInOrder()
 {
     QStringList calls;
     const std::unique_ptr<QObject> host(ForeignHost::createApplication(&calls));
@@ -225,7 +225,7 @@ void TestInterfaces::imageDefOperationsLandInOrder()
             QStringLiteral("~ImageDef") }));
 }
 
-void TestInterfaces::hostReadsTheLibraryInOrder()
+void tst_Interfaces::hostReadsTheLibraryInOrder()
 {
     QStringList calls;
     LoggingLibrary library(&calls);
@@ -250,7 +250,7 @@ void TestInterfaces::hostReadsTheLibraryInOrder()
     QCOMPARE(calls, expectedCalls);
 }
 
-void TestInterfaces::hostDeletesThroughEachInterface_data()
+void tst_Interfaces::hostDeletesThroughEachInterface_data()
 {
     QTest::addColumn<QByteArray>("iid");
     QTest::addColumn<bool>("library");
@@ -260,7 +260,7 @@ void TestInterfaces::hostDeletesThroughEachInterface_data()
     QTest::newRow("library through ZIPluginLibrary") << QByteArray("ZIPluginLibrary") << true;
 }
 
-void TestInterfaces::hostDeletesThroughEachInterface()
+void tst_Interfaces::hostDeletesThroughEachInterface()
 {
     QFETCH(QByteArray, iid);
     QFETCH(bool, library);
@@ -275,7 +275,7 @@ void TestInterfaces::hostDeletesThroughEachInterface()
         calls, QStringList { library ? QStringLiteral("library ~") : QStringLiteral("plug-in ~") });
 }
 
-void TestInterfaces::castsAnswerOnlyTheirNames()
+void tst_Interfaces::castsAnswerOnlyTheirNames()
 {
     QStringList calls;
     LoggingLibrary library(&calls);
@@ -301,7 +301,7 @@ void TestInterfaces::castsAnswerOnlyTheirNames()
     QVERIFY(calls.isEmpty());
 }
 
-void TestInterfaces::swappedApplicationIsDetected()
+void tst_Interfaces::swappedApplicationIsDetected()
 {
     // A host whose table has two operations of one signature swapped: calls
     // through our declarations land in the other operation, and show it.
@@ -318,7 +318,7 @@ void TestInterfaces::swappedApplicationIsDetected()
             QStringLiteral("DefaultFolder()") }));
 }
 
-void TestInterfaces::swappedImageDefIsDetected()
+void tst_Interfaces::swappedImageDefIsDetected()
 {
     QStringList calls;
     const std::unique_ptr<QObject> host(ForeignHost::createSwappedApplication(&calls));
@@ -334,7 +334,7 @@ void TestInterfaces::swappedImageDefIsDetected()
             QStringLiteral("LensType"), QStringLiteral("~ImageDef") }));
 }
 
-void TestInterfaces::swappedAboutIsDetected()
+void tst_Interfaces::swappedAboutIsDetected()
 {
     QStringList calls;
     LoggingLibrary library(&calls);
@@ -346,5 +346,5 @@ void TestInterfaces::swappedAboutIsDetected()
             QStringLiteral("Author"), QStringLiteral("Name"), QStringLiteral("Company") }));
 }
 
-QTEST_MAIN(TestInterfaces)
-#include "tst_interfaces.moc"
+QTEST_MAIN(tst_Interfaces)
+#include "tst_Interfaces.moc"
