@@ -79,13 +79,15 @@ public:
         /// Every program's command line and output; empty before the work
         /// folder exists.
         QString log;
-        /// Where the panorama goes (absolute); on failure or stop no file is
-        /// there. Its size in pixels is valid on success only.
+        /// Where the panorama goes (absolute). Blending removes an older
+        /// panorama first and writes the new one there only once checked, so
+        /// after a failure or stop in that step no file is there. Its size in
+        /// pixels is valid on success only.
         QString panorama;
         QSize panoramaSize;
         /// The last project written: on success the one the panorama is made of.
         QString stitchedProject;
-        /// Absolute; empty only when the project cannot be read.
+        /// Absolute; empty only when the project file does not exist.
         QString workFolder;
         qint64 elapsedMilliseconds = 0;
 
