@@ -103,13 +103,14 @@ public:
     void setProgress(Progress progress);
 
     /// Runs every step; returns when the panorama is written, a step failed,
-    /// or cancel() took effect. A pipeline runs once: run() after cancel()
-    /// returns Stopped without starting a step.
+    /// or cancel() took effect. A cancelled pipeline stays cancelled: run()
+    /// after cancel() returns Stopped without starting a step.
     Result run();
 
-    /// Stops run() within about 0.1 s: the running program's process group is
-    /// ended, its partial output (and the panorama's) removed, and run()
-    /// returns Stopped. Thread-safe and async-signal-safe; may come before run().
+    /// Stops run() within about 0.1 s (a second more for a program that
+    /// ignores SIGTERM): the running program's process group is ended, its
+    /// partial output (and the panorama's) removed, and run() returns
+    /// Stopped. Thread-safe and async-signal-safe; may come before run().
     void cancel();
     bool isCancelled() const;
 
