@@ -11,6 +11,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <signal.h>
+#include <thread>
+#include <unistd.h>
+
 namespace {
 
 struct Outcome
@@ -113,6 +117,7 @@ private slots:
     void stitchSteps_data();
     void stitchSteps();
     void stitchWithoutDetection();
+    void stitchStoppedByInterrupt();
 
 private:
     QString data(const QString& name) const
@@ -587,6 +592,38 @@ void tst_CommandLine::stitchWithoutDetection()
     QVERIFY2(o.code == 0, qPrintable(o.err));
     QVERIFY(o.out.startsWith(QStringLiteral("[1/4] autooptimiser: placing the pictures ... done")));
     QVERIFY(o.out.contains(QStringLiteral("no control points: recorded positions")));
+}
+
+void tst_CommandLine::stitchStoppedByInterrupt()
+{
+    const QString folder = path(QStringLiteral("interrupted"));
+    Outcome o = command({ QStringLiteral("import"), QStringLiteral("papywizard"),
+        QStringLiteral("--focal"), QStringLiteral("35"), data(QStringLiteral("three-shots.xml")),
+        path(QStringLiteral("three")), QStringLiteral("-o"), folder });
+    QCOMPARE(o.code, 0);
+    // cpfind says it runs, then hangs until the interrupt ends it.
+    const QString started = QDir(folder).filePath(QStringLiteral("cpfind-started"));
+    const QString tools = QDir(folder).filePath(QStringLiteral("tools"));
+    QVERIFY(makeTools(tools,
+        { { QStringLiteral("cpfind"),
+            QStringLiteral("touch \"%1\"; exec sleep 30").arg(started) } }));
+    // Ctrl-C, sent to the process once cpfind runs; the stitch catches it.
+    std::thread interrupt([started] {
+        for (int i = 0; i < 200 && !QFileInfo::exists(started); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        ::kill(::getpid(), SIGINT);
+    });
+    QElapsedTimer timer;
+    timer.start();
+    o = command({ QStringLiteral("stitch"), QStringLiteral("--tools"), tools,
+        QDir(folder).filePath(QStringLiteral("three-shots.pto")) });
+    interrupt.join();
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(o.code, 1);
+    QCOMPARE(o.out, QStringLiteral("[1/7] cpfind: finding control points ... stopped\n"));
+    QCOMPARE(o.err,
+        QStringLiteral("panohead stitch: stopped at step 1/7 (cpfind); log: %1\n")
+            .arg(QDir(folder).filePath(QStringLiteral("three-shots.stitch/stitch.log"))));
 }
 
 QTEST_MAIN(tst_CommandLine)

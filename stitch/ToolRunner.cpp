@@ -1,11 +1,28 @@
 #include "ToolRunner.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <signal.h>
+#include <unistd.h>
+
 namespace {
+
+/// How often a running program is checked for the stop flag and the timeout.
+constexpr int PollMilliseconds = 100;
+/// How long a program may take to end after SIGTERM before it gets SIGKILL.
+constexpr int GraceMilliseconds = 1000;
+
+/// A process that leads a process group of its own: the group's id is the
+/// process's id, and ending the group ends the program's children too.
+class GroupLeaderProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override { ::setpgid(0, 0); }
+};
 
 QString lastLines(const QString& path, int count)
 {
@@ -21,12 +38,30 @@ QString lastLines(const QString& path, int count)
     return lines.mid(qMax(0, lines.size() - count)).join(QStringLiteral(" | "));
 }
 
+/// Ends the process group led by process: SIGTERM, then SIGKILL to whatever
+/// of the group is left after the grace.
+void endGroup(QProcess& process)
+{
+    const pid_t group = pid_t(process.processId());
+    if (group <= 0)
+        return;
+    ::kill(-group, SIGTERM);
+    process.waitForFinished(GraceMilliseconds);
+    // The group outlives its leader while a child of it runs; SIGKILL goes to
+    // the group even when the leader has ended.
+    ::kill(-group, SIGKILL);
+    if (process.state() != QProcess::NotRunning)
+        process.waitForFinished(GraceMilliseconds);
+}
+
 } // namespace
 
 QString ToolRunner::Result::failure() const
 {
     if (!started)
         return QStringLiteral("cannot be started");
+    if (stopped)
+        return QStringLiteral("was stopped");
     if (timedOut)
         return QStringLiteral("did not finish in time");
     if (crashed)
@@ -44,7 +79,8 @@ QString ToolRunner::program(const QString& name) const
 }
 
 ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& arguments,
-    const QString& workingFolder, const QString& logPath, int timeoutSeconds) const
+    const QString& workingFolder, const QString& logPath, int timeoutSeconds,
+    const std::atomic<bool>* stop) const
 {
     Result result;
     const QString path = program(name);
@@ -58,7 +94,13 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
     }
     if (path.isEmpty())
         return result;
-    QProcess process;
+    const auto stopped = [stop] { return stop && stop->load(); };
+    if (stopped()) {
+        result.started = true;
+        result.stopped = true;
+        return result;
+    }
+    GroupLeaderProcess process;
     process.setProgram(path);
     process.setArguments(arguments);
     process.setWorkingDirectory(workingFolder);
@@ -69,11 +111,20 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
     if (!process.waitForStarted(30000))
         return result;
     result.started = true;
-    if (!process.waitForFinished(timeoutSeconds * 1000)) {
-        result.timedOut = true;
-        process.kill();
-        process.waitForFinished(5000);
-    } else {
+    const QDeadlineTimer deadline(qint64(timeoutSeconds) * 1000);
+    while (!process.waitForFinished(PollMilliseconds)) {
+        if (process.state() == QProcess::NotRunning)
+            break;
+        if (stopped())
+            result.stopped = true;
+        else if (deadline.hasExpired())
+            result.timedOut = true;
+        else
+            continue;
+        endGroup(process);
+        break;
+    }
+    if (!result.stopped && !result.timedOut) {
         result.crashed = process.exitStatus() == QProcess::CrashExit;
         result.exitCode = process.exitCode();
     }

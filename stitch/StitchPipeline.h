@@ -1,0 +1,124 @@
+// StitchPipeline: stitches a project written by "panohead import" with Hugin's
+// programs, up to the finished panorama: control points (cpfind), the removal
+// of points between stacks that no authorised link joins, cpclean,
+// autooptimiser, pano_modify, nona and enblend. Hugin's programs do not always
+// report a failure by their exit code, so what every step wrote is checked.
+//
+// No widgets and no event loop: run() blocks on the thread that calls it and
+// reports each step through a callback on that thread; cancel() may be called
+// from any thread (or a signal handler) while run() works.
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+
+class StitchPipeline
+{
+public:
+    struct Options
+    {
+        /// The imported Hugin project.
+        QString project;
+        /// The JSON description beside it; empty: the project's name with ".json".
+        QString description;
+        /// The panorama file (.tif or .jpg); empty: the project's name with ".tif".
+        QString output;
+        /// Where intermediate projects, pictures and logs go; empty: the
+        /// project's name with ".stitch" beside it.
+        QString workFolder;
+        /// Where Hugin's programs are; empty: looked up in PATH.
+        QString tools;
+        /// Seconds any one program may run.
+        int timeoutSeconds = 900;
+    };
+
+    /// One step's start or end, as the progress callback receives it.
+    struct StepEvent
+    {
+        enum Phase {
+            Started,
+            /// Ended well; note may say what it found ("340 points").
+            Done,
+            /// Ended with an error; note holds the reason.
+            Failed,
+            /// Ended by cancel().
+            Stopped,
+        };
+        Phase phase = Started;
+        /// 1 to count. Without "Auto detection" the stitch has 4 steps, else 7.
+        int step = 0;
+        int count = 0;
+        /// The program the step runs ("cpfind"), or "links" for the filter.
+        QString tool;
+        /// What the step does for a person ("Finding control points"), in
+        /// English; translatable in the context "StitchPipeline".
+        QString name;
+        QString note;
+        /// Since the step started; 0 for Started.
+        qint64 elapsedMilliseconds = 0;
+    };
+    using Progress = std::function<void(const StepEvent&)>;
+
+    struct Result
+    {
+        enum Outcome { Succeeded, Failed, Stopped };
+        Outcome outcome = Failed;
+        /// Failed or Stopped: the step that failed or was running or next
+        /// (1 to stepCount); 0 when the stitch failed before its first step
+        /// (a file or a program is missing).
+        int step = 0;
+        int stepCount = 0;
+        QString tool;
+        QString name;
+        /// Failed: why, e.g. "cpfind exit code 3: <last lines of its output>".
+        QString error;
+        /// Every program's command line and output; empty before the work
+        /// folder exists.
+        QString log;
+        /// Where the panorama goes (absolute). Blending removes an older
+        /// panorama first and writes the new one there only once checked, so
+        /// after a failure or stop in that step no file is there. Its size in
+        /// pixels is valid on success only.
+        QString panorama;
+        QSize panoramaSize;
+        /// The last project written: on success the one the panorama is made of.
+        QString stitchedProject;
+        /// Absolute; empty only when the project file does not exist.
+        QString workFolder;
+        qint64 elapsedMilliseconds = 0;
+
+        bool succeeded() const { return outcome == Succeeded; }
+    };
+
+    explicit StitchPipeline(const Options& options);
+    StitchPipeline(const StitchPipeline&) = delete;
+    StitchPipeline& operator=(const StitchPipeline&) = delete;
+
+    /// Called on run()'s thread when a step starts and when it ends. Set it
+    /// before run().
+    void setProgress(Progress progress);
+
+    /// Runs every step; returns when the panorama is written, a step failed,
+    /// or cancel() took effect. A cancelled pipeline stays cancelled: run()
+    /// after cancel() returns Stopped without starting a step.
+    Result run();
+
+    /// Stops run() within about 0.1 s (a second more for a program that
+    /// ignores SIGTERM): the running program's process group is ended, its
+    /// partial output (and the panorama's) removed, and run() returns
+    /// Stopped. Thread-safe and async-signal-safe; may come before run().
+    void cancel();
+    bool isCancelled() const;
+
+    /// The programs the stitch runs, in order; every one must be found.
+    static QStringList programs();
+
+private:
+    Options m_options;
+    Progress m_progress;
+    std::atomic<bool> m_cancelled { false };
+};

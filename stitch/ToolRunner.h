@@ -1,0 +1,51 @@
+// ToolRunner: runs one of Hugin's command-line programs, its output (both
+// channels) going to a log file, and reports how it ended. The program runs in
+// a process group of its own, so that a timeout or a stop ends it together
+// with every program it started.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+
+class ToolRunner
+{
+public:
+    struct Result
+    {
+        bool started = false;
+        bool timedOut = false;
+        /// Ended because the stop flag was raised.
+        bool stopped = false;
+        bool crashed = false;
+        int exitCode = -1;
+        /// The last lines of the log, for the error message.
+        QString tail;
+
+        bool succeeded() const
+        {
+            return started && !timedOut && !stopped && !crashed && exitCode == 0;
+        }
+        /// "exit code 3", "crashed", "did not finish in time", "was stopped",
+        /// "cannot be started".
+        QString failure() const;
+    };
+
+    /// folder: where the programs are; empty to look them up in PATH.
+    explicit ToolRunner(const QString& folder = QString());
+
+    /// The program's full path; empty when it cannot be found.
+    QString program(const QString& name) const;
+
+    /// Runs name with arguments in workingFolder, appending its output to
+    /// logPath, and waits for it on the calling thread (no event loop needed).
+    /// After timeoutSeconds, or within 0.1 s of *stop (optional) turning true,
+    /// the program's whole process group is sent SIGTERM and, after a grace
+    /// of one second, SIGKILL.
+    Result run(const QString& name, const QStringList& arguments, const QString& workingFolder,
+        const QString& logPath, int timeoutSeconds, const std::atomic<bool>* stop = nullptr) const;
+
+private:
+    QString m_folder;
+};
