@@ -8,7 +8,7 @@ double FormLimits::AsShown(double value, int decimals, double minimum, double ma
     const double rounded = QString::number(value, 'f', decimals).toDouble();
     if (rounded < minimum)
         return minimum;
-    if (rounded > maximum)
+    if (!(rounded <= maximum))
         return maximum;
     return rounded;
 }

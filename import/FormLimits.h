@@ -28,7 +28,7 @@ constexpr double DefaultOverlap = 40.0;
 
 /// `value` as a decimal number box with `decimals` decimals and the range
 /// [minimum, maximum] holds it once set: rounded to its decimals, then
-/// bounded. Not-a-number stays not-a-number, as it does in the box.
+/// bounded. Not-a-number gives the maximum, as it does in the box.
 double AsShown(double value, int decimals, double minimum, double maximum);
 
 /// A focal length as the pages' focal box holds it.
