@@ -41,14 +41,40 @@ public:
     /// so that a definition keeps at most about 110 KiB.
     static constexpr qint64 Max32BitThumbnailBytes = 96 * 1024;
 
+    /// Why Read gave no definition.
+    enum class ReadFailure {
+        None,
+        /// The path is empty or names nothing.
+        NoSuchFile,
+        /// The file exists but cannot be opened for reading (a folder, no permission).
+        CannotOpen,
+        /// The file holds no bytes.
+        EmptyFile,
+        /// Neither exiv2 nor Qt's image readers recognise it, or it gives no size.
+        NotAPicture,
+        /// A JPEG whose headers or picture data are cut short.
+        CutShort,
+        /// Declares more pixels than a picture is decoded at.
+        TooLarge,
+        /// With WithThumbnail: no preview could be made of it.
+        NoPreview,
+        /// Reading failed otherwise (the reason is in the log).
+        Unreadable,
+    };
+
     /// Reads `path`. Thread-safe; needs no GUI application (a QCoreApplication
     /// or none at all is enough). Returns a new definition owned by the caller,
     /// or null when the file is not a picture that can be read: missing, empty,
     /// not an image, a truncated JPEG, dimensions beyond the decoding limit, or
     /// (with WithThumbnail) no preview could be made. The reason goes to the log
-    /// category "zph.host.image". A file without EXIF data is readable: its
-    /// figures are the defaults documented below. Never throws.
-    static ImageDefinition* Read(const QString& path, ReadOptions options = WithThumbnail);
+    /// category "zph.host.image" and, when `failure` is given, to *failure
+    /// (ReadFailure::None when a definition is returned). A file without EXIF
+    /// data is readable: its figures are the defaults documented below. Never throws.
+    static ImageDefinition* Read(const QString& path, ReadOptions options = WithThumbnail,
+        ReadFailure* failure = nullptr);
+    /// A short English phrase for `failure` ("no such file", "cut short", ...),
+    /// empty for ReadFailure::None; for logs and the command line's messages.
+    static QString FailureText(ReadFailure failure);
 
     ~ImageDefinition() override;
 
