@@ -252,7 +252,7 @@ const QPixmap& ImageDefinition::Thumbnail() const
 
 float ImageDefinition::FocalLength() const
 {
-    return m_focalLength;
+    return m_focalLength35mm > 0.0f ? m_focalLength35mm : m_focalLength;
 }
 
 int ImageDefinition::LensType() const

@@ -4,6 +4,13 @@
 // that, so every accessor may be called from any thread except Thumbnail(),
 // which makes a QPixmap and belongs to the GUI thread.
 //
+// FocalLength() is a full-frame (36 × 24 mm) equivalent: the pages average it,
+// write it into the panorama description and compute the field of view from
+// it as for a 36 × 24 mm frame, as the heads' records do. It is the EXIF
+// FocalLengthIn35mmFilm when the photograph gives one, else the lens's own
+// FocalLength (right for a full-frame camera, the best figure there is
+// otherwise), else 0. LensFocalLength() is always the lens's own figure.
+//
 // The thumbnail is NOT turned by the EXIF orientation: it shows the pixels as
 // the file stores them. The pages turn each preview by the shot's roll (which
 // the user sets with the pages' rotate buttons to match how the camera sat on
@@ -70,8 +77,8 @@ public:
     /// category "zph.host.image" and, when `failure` is given, to *failure
     /// (ReadFailure::None when a definition is returned). A file without EXIF
     /// data is readable: its figures are the defaults documented below. Never throws.
-    static ImageDefinition* Read(const QString& path, ReadOptions options = WithThumbnail,
-        ReadFailure* failure = nullptr);
+    static ImageDefinition* Read(
+        const QString& path, ReadOptions options = WithThumbnail, ReadFailure* failure = nullptr);
     /// A short English phrase for `failure` ("no such file", "cut short", ...),
     /// empty for ReadFailure::None; for logs and the command line's messages.
     static QString FailureText(ReadFailure failure);
@@ -83,7 +90,9 @@ public:
     /// decoded image (sharing its pixels). A null pixmap when there is no
     /// thumbnail or when called off the GUI thread (logged).
     const QPixmap& Thumbnail() const override;
-    /// Millimetres; 0 when the EXIF data holds none.
+    /// The full-frame (35 mm) equivalent focal length, millimetres: the EXIF
+    /// FocalLengthIn35mmFilm when present, else the lens's own FocalLength,
+    /// else 0.
     float FocalLength() const override;
     /// 1 (fisheye) when the EXIF lens description says "fisheye" or
     /// "fish-eye" (any case), else 0 (standard).
@@ -124,7 +133,9 @@ public:
     QString CameraModel() const { return m_cameraModel; }
     /// The lens description that LensType() was decided from; may be empty.
     QString LensDescription() const { return m_lensDescription; }
-    /// The 35 mm equivalent focal length, millimetres; 0 when unknown.
+    /// The lens's own focal length (EXIF FocalLength), millimetres; 0 when unknown.
+    float LensFocalLength() const { return m_focalLength; }
+    /// The EXIF FocalLengthIn35mmFilm, millimetres; 0 when the photograph gives none.
     float FocalLength35mm() const { return m_focalLength35mm; }
     /// FocalLengthIn35mmFilm / FocalLength; 0 when either is unknown.
     double CropFactor() const;
