@@ -233,21 +233,23 @@ ImageDefinition::~ImageDefinition() = default;
 
 const QPixmap& ImageDefinition::Thumbnail() const
 {
-    static const QPixmap none;
     QCoreApplication* app = QCoreApplication::instance();
-    if (!app || !qobject_cast<QGuiApplication*>(app) || QThread::currentThread() != app->thread()) {
+    if (!qobject_cast<QGuiApplication*>(app))
+        qFatal("ImageDefinition::Thumbnail: a pixmap needs a QGuiApplication");
+    static const QPixmap none;
+    if (QThread::currentThread() != app->thread()) {
         qCWarning(lcImage) << "a thumbnail pixmap is made on the GUI thread only";
         return none;
     }
     QMutexLocker lock(&m_pixmapMutex);
-    if (!m_pixmapMade) {
+    if (!m_thumbnail) {
         // Keep the stored format: the pixmap then shares the image's pixels
         // instead of holding a second, 32-bit copy.
+        m_thumbnail.emplace();
         if (!m_thumbnailImage.isNull())
-            m_thumbnail = QPixmap::fromImage(m_thumbnailImage, Qt::NoFormatConversion);
-        m_pixmapMade = true;
+            *m_thumbnail = QPixmap::fromImage(m_thumbnailImage, Qt::NoFormatConversion);
     }
-    return m_thumbnail;
+    return *m_thumbnail;
 }
 
 float ImageDefinition::FocalLength() const

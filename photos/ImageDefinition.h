@@ -28,6 +28,8 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
+
 class ImageDefinition final : public ZIImageDef
 {
 public:
@@ -88,7 +90,8 @@ public:
     // ZIImageDef
     /// GUI thread only: the thumbnail as a pixmap, made on first use from the
     /// decoded image (sharing its pixels). A null pixmap when there is no
-    /// thumbnail or when called off the GUI thread (logged).
+    /// thumbnail or when called off the GUI thread (logged). Needs a
+    /// QGuiApplication, as every pixmap does (aborts without one).
     const QPixmap& Thumbnail() const override;
     /// The full-frame (35 mm) equivalent focal length, millimetres: the EXIF
     /// FocalLengthIn35mmFilm when present, else the lens's own FocalLength,
@@ -165,8 +168,9 @@ private:
     QDateTime m_shootingTime;
     QImage m_thumbnailImage;
     mutable QMutex m_pixmapMutex;
-    mutable QPixmap m_thumbnail;
-    mutable bool m_pixmapMade = false;
+    /// Made by Thumbnail() on first use only: a pixmap cannot be constructed
+    /// without a QGuiApplication, which Read does not need.
+    mutable std::optional<QPixmap> m_thumbnail;
     QSize m_pixelSize;
     qint64 m_orderKey = 0;
     double m_exposureTime = 0.0;
