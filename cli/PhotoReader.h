@@ -1,6 +1,6 @@
 // PhotoReader: reads the photographs' definitions (EXIF data, size,
-// thumbnail) with the host's image reading, on several threads at once,
-// showing a progress bar while it works.
+// thumbnail) on several threads at once with ParallelPhotoReader, showing a
+// progress bar on the console while it works.
 #pragma once
 
 #include "Console.h"

@@ -25,6 +25,7 @@ namespace {
 
 struct Expected
 {
+    /// FocalLength(): the full-frame equivalent.
     float focal = 0.0f;
     int lens = 0;
     qint64 orderKey = 0;
@@ -35,6 +36,8 @@ struct Expected
     bool embedded = false;
     int orientation = 1;
     int iso = 0;
+    /// LensFocalLength(): the lens's own focal length.
+    float lensFocal = 0.0f;
 };
 
 /// The exposure value at ISO 100, worked out here from the EXIF fields.
@@ -138,34 +141,34 @@ void tst_ImageDefinition::initTestCase()
     PhotoFixture f = baseFixture();
     f.thumbnail = QSize(160, 107);
     write("thumb.jpg", f);
-    m_expected["thumb.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400), QSize(160, 107), true, 1, 200 };
+    m_expected["thumb.jpg"] = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(160, 107), true, 1, 200, 24.0f };
 
     f = baseFixture();
     write("nothumb.jpg", f);
-    m_expected["nothumb.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200 };
+    m_expected["nothumb.jpg"] = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 24.0f };
 
     // An embedded thumbnail under 160 px is too small: the picture is decoded.
     f = baseFixture();
     f.thumbnail = QSize(120, 80);
     write("smallthumb.jpg", f);
-    m_expected["smallthumb.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200 };
+    m_expected["smallthumb.jpg"] = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 24.0f };
 
     // A large embedded thumbnail is shrunk to 192 px.
     f = baseFixture();
     f.thumbnail = QSize(320, 240);
     write("bigthumb.jpg", f);
-    m_expected["bigthumb.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400), QSize(192, 144), true, 1, 200 };
+    m_expected["bigthumb.jpg"] = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 144), true, 1, 200, 24.0f };
 
     f = baseFixture();
     f.lensModel = "8mm F3.5 Circular FISHEYE";
     f.focalNum = 8;
     write("fisheye.jpg", f);
-    m_expected["fisheye.jpg"]
-        = { 8.0f, 1, shot, ev, QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200 };
+    m_expected["fisheye.jpg"] = { 8.0f, 1, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 8.0f };
 
     f = baseFixture();
     f.lensModel.clear();
@@ -173,15 +176,46 @@ void tst_ImageDefinition::initTestCase()
     f.focalNum = 105;
     f.focalDen = 10;
     write("fisheye-make.jpg", f);
-    m_expected["fisheye-make.jpg"]
-        = { 10.5f, 1, shot, ev, QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200 };
+    m_expected["fisheye-make.jpg"] = { 10.5f, 1, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 10.5f };
+
+    // A crop-sensor camera: FocalLength() is the full-frame equivalent the
+    // camera states, LensFocalLength() the lens's own figure.
+    f = baseFixture();
+    f.focalNum = 18;
+    f.focal35mm = 27;
+    write("crop-sensor.jpg", f);
+    m_expected["crop-sensor.jpg"] = { 27.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 18.0f };
+
+    // Only the lens's focal length: it stands for the full-frame equivalent.
+    f = baseFixture();
+    f.focalNum = 50;
+    write("lens-focal-only.jpg", f);
+    m_expected["lens-focal-only.jpg"] = { 50.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 50.0f };
+
+    // Only the 35 mm equivalent: the lens's own figure stays unknown.
+    f = baseFixture();
+    f.focalDen = 0;
+    f.focal35mm = 28;
+    write("equivalent-only.jpg", f);
+    m_expected["equivalent-only.jpg"] = { 28.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 0.0f };
+
+    // EXIF data without either focal length.
+    f = baseFixture();
+    f.focalDen = 0;
+    write("no-focal.jpg", f);
+    m_expected["no-focal.jpg"] = { 0.0f, 0, shot, ev, QSize(600, 400), QSize(600, 400),
+        QSize(192, 128), false, 1, 200, 0.0f };
 
     // Held upright: stored landscape, shown portrait; the thumbnail stays as stored.
     f = baseFixture();
     f.orientation = 6;
     write("portrait.jpg", f);
-    m_expected["portrait.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(400, 600), QSize(192, 128), false, 6, 200 };
+    m_expected["portrait.jpg"] = { 24.0f, 0, shot, ev, QSize(600, 400), QSize(400, 600),
+        QSize(192, 128), false, 6, 200, 24.0f };
 
     f = baseFixture();
     f.subSecTimeOriginal = "5";
@@ -193,7 +227,7 @@ void tst_ImageDefinition::initTestCase()
     write("subsec1.jpg", f);
     m_expected["subsec1.jpg"]
         = { 24.0f, 0, utcMs(2023, 5, 17, 10, 11, 12, 500), ev100(2.0, 5.6, 1600.0), QSize(600, 400),
-              QSize(600, 400), QSize(192, 128), false, 1, 1600 };
+              QSize(600, 400), QSize(192, 128), false, 1, 1600, 24.0f };
 
     f = baseFixture();
     f.subSecTimeOriginal.clear();
@@ -202,27 +236,27 @@ void tst_ImageDefinition::initTestCase()
     write("nosubsec.jpg", f);
     m_expected["nosubsec.jpg"]
         = { 24.0f, 0, utcMs(2023, 5, 17, 10, 11, 12, 0), ev100(1.0 / 250.0, 1.0, 100.0),
-              QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0 };
+              QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0, 24.0f };
 
     // A blank shooting time: the key falls back to the modification time.
     f = baseFixture();
     f.dateTimeOriginal = "    :  :     :  :  ";
     write("blankdate.jpg", f);
     m_expected["blankdate.jpg"] = { 24.0f, 0, ModificationTime.toMSecsSinceEpoch(), ev,
-        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200 };
+        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 200, 24.0f };
 
     f = PhotoFixture();
     f.exif = false;
     write("noexif.jpg", f);
     m_expected["noexif.jpg"] = { 0.0f, 0, ModificationTime.toMSecsSinceEpoch(), 0.0f,
-        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0 };
+        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0, 0.0f };
 
     // Smaller than a thumbnail: kept at its size, never enlarged.
     f = baseFixture();
     f.size = QSize(100, 100);
     write("tiny.jpg", f);
-    m_expected["tiny.jpg"]
-        = { 24.0f, 0, shot, ev, QSize(100, 100), QSize(100, 100), QSize(100, 100), false, 1, 200 };
+    m_expected["tiny.jpg"] = { 24.0f, 0, shot, ev, QSize(100, 100), QSize(100, 100),
+        QSize(100, 100), false, 1, 200, 24.0f };
 
     // Not a JPEG, no EXIF: still a picture.
     QVERIFY(PhotoFixture::picture(QSize(300, 300), 3, 0).save(path("plain.png"), "png"));
@@ -233,7 +267,7 @@ void tst_ImageDefinition::initTestCase()
     }
     m_readable << "plain.png";
     m_expected["plain.png"] = { 0.0f, 0, ModificationTime.toMSecsSinceEpoch(), 0.0f,
-        QSize(300, 300), QSize(300, 300), QSize(192, 192), false, 1, 0 };
+        QSize(300, 300), QSize(300, 300), QSize(192, 192), false, 1, 0, 0.0f };
 
     // Damaged EXIF: the IFD entry count and offsets overwritten with garbage.
     // The metadata is lost, the picture is still read.
@@ -256,7 +290,7 @@ void tst_ImageDefinition::initTestCase()
         QVERIFY(file.setFileTime(ModificationTime, QFileDevice::FileModificationTime));
     }
     m_expected["bogusexif.jpg"] = { 0.0f, 0, ModificationTime.toMSecsSinceEpoch(), 0.0f,
-        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0 };
+        QSize(600, 400), QSize(600, 400), QSize(192, 128), false, 1, 0, 0.0f };
 
     // Data appended after the picture (some cameras add a trailer): still whole.
     {
@@ -344,6 +378,7 @@ void tst_ImageDefinition::readsFigures()
     QVERIFY(def);
     QCOMPARE(def->Path(), path(name));
     QCOMPARE(def->FocalLength(), e.focal);
+    QCOMPARE(def->LensFocalLength(), e.lensFocal);
     QCOMPARE(def->LensType(), e.lens);
     QCOMPARE(def->OrderKey(), e.orderKey);
     // Bit for bit: the same formula in double, rounded once to float.
@@ -436,6 +471,8 @@ void tst_ImageDefinition::extraFigures()
     QVERIFY(def);
     QCOMPARE(def->CropFactor(), 1.5);
     QCOMPARE(def->FocalLength35mm(), 24.0f);
+    QCOMPARE(def->FocalLength(), 24.0f);
+    QCOMPARE(def->LensFocalLength(), 16.0f);
     QCOMPARE(def->ExposureTime(), 1.0 / 250.0);
     QCOMPARE(def->Aperture(), 8.0);
     QCOMPARE(def->CameraMake(), QStringLiteral("Zcam"));
@@ -452,6 +489,9 @@ void tst_ImageDefinition::extraFigures()
     QVERIFY(!bare->HasExposure());
     QVERIFY(!bare->OrderKeyFromExif());
     QCOMPARE(bare->CropFactor(), 0.0);
+    QCOMPARE(bare->FocalLength(), 0.0f);
+    QCOMPARE(bare->LensFocalLength(), 0.0f);
+    QCOMPARE(bare->FocalLength35mm(), 0.0f);
     QVERIFY(bare->CameraMake().isEmpty());
 }
 

@@ -4,6 +4,13 @@
 // that, so every accessor may be called from any thread except Thumbnail(),
 // which makes a QPixmap and belongs to the GUI thread.
 //
+// FocalLength() is a full-frame (36 × 24 mm) equivalent: the pages average it,
+// write it into the panorama description and compute the field of view from
+// it as for a 36 × 24 mm frame, as the heads' records do. It is the EXIF
+// FocalLengthIn35mmFilm when the photograph gives one, else the lens's own
+// FocalLength (right for a full-frame camera, the best figure there is
+// otherwise), else 0. LensFocalLength() is always the lens's own figure.
+//
 // The thumbnail is NOT turned by the EXIF orientation: it shows the pixels as
 // the file stores them. The pages turn each preview by the shot's roll (which
 // the user sets with the pages' rotate buttons to match how the camera sat on
@@ -20,6 +27,8 @@
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+
+#include <optional>
 
 class ImageDefinition final : public ZIImageDef
 {
@@ -41,23 +50,52 @@ public:
     /// so that a definition keeps at most about 110 KiB.
     static constexpr qint64 Max32BitThumbnailBytes = 96 * 1024;
 
+    /// Why Read gave no definition.
+    enum class ReadFailure {
+        None,
+        /// The path is empty or names nothing.
+        NoSuchFile,
+        /// The file exists but cannot be opened for reading (a folder, no permission).
+        CannotOpen,
+        /// The file holds no bytes.
+        EmptyFile,
+        /// Neither exiv2 nor Qt's image readers recognise it, or it gives no size.
+        NotAPicture,
+        /// A JPEG whose headers or picture data are cut short.
+        CutShort,
+        /// Declares more pixels than a picture is decoded at.
+        TooLarge,
+        /// With WithThumbnail: no preview could be made of it.
+        NoPreview,
+        /// Reading failed otherwise (the reason is in the log).
+        Unreadable,
+    };
+
     /// Reads `path`. Thread-safe; needs no GUI application (a QCoreApplication
     /// or none at all is enough). Returns a new definition owned by the caller,
     /// or null when the file is not a picture that can be read: missing, empty,
     /// not an image, a truncated JPEG, dimensions beyond the decoding limit, or
     /// (with WithThumbnail) no preview could be made. The reason goes to the log
-    /// category "zph.host.image". A file without EXIF data is readable: its
-    /// figures are the defaults documented below. Never throws.
-    static ImageDefinition* Read(const QString& path, ReadOptions options = WithThumbnail);
+    /// category "zph.host.image" and, when `failure` is given, to *failure
+    /// (ReadFailure::None when a definition is returned). A file without EXIF
+    /// data is readable: its figures are the defaults documented below. Never throws.
+    static ImageDefinition* Read(
+        const QString& path, ReadOptions options = WithThumbnail, ReadFailure* failure = nullptr);
+    /// A short English phrase for `failure` ("no such file", "cut short", ...),
+    /// empty for ReadFailure::None; for logs and the command line's messages.
+    static QString FailureText(ReadFailure failure);
 
     ~ImageDefinition() override;
 
     // ZIImageDef
     /// GUI thread only: the thumbnail as a pixmap, made on first use from the
     /// decoded image (sharing its pixels). A null pixmap when there is no
-    /// thumbnail or when called off the GUI thread (logged).
+    /// thumbnail or when called off the GUI thread (logged). Needs a
+    /// QGuiApplication, as every pixmap does (aborts without one).
     const QPixmap& Thumbnail() const override;
-    /// Millimetres; 0 when the EXIF data holds none.
+    /// The full-frame (35 mm) equivalent focal length, millimetres: the EXIF
+    /// FocalLengthIn35mmFilm when present, else the lens's own FocalLength,
+    /// else 0.
     float FocalLength() const override;
     /// 1 (fisheye) when the EXIF lens description says "fisheye" or
     /// "fish-eye" (any case), else 0 (standard).
@@ -98,7 +136,9 @@ public:
     QString CameraModel() const { return m_cameraModel; }
     /// The lens description that LensType() was decided from; may be empty.
     QString LensDescription() const { return m_lensDescription; }
-    /// The 35 mm equivalent focal length, millimetres; 0 when unknown.
+    /// The lens's own focal length (EXIF FocalLength), millimetres; 0 when unknown.
+    float LensFocalLength() const { return m_focalLength; }
+    /// The EXIF FocalLengthIn35mmFilm, millimetres; 0 when the photograph gives none.
     float FocalLength35mm() const { return m_focalLength35mm; }
     /// FocalLengthIn35mmFilm / FocalLength; 0 when either is unknown.
     double CropFactor() const;
@@ -128,8 +168,9 @@ private:
     QDateTime m_shootingTime;
     QImage m_thumbnailImage;
     mutable QMutex m_pixmapMutex;
-    mutable QPixmap m_thumbnail;
-    mutable bool m_pixmapMade = false;
+    /// Made by Thumbnail() on first use only: a pixmap cannot be constructed
+    /// without a QGuiApplication, which Read does not need.
+    mutable std::optional<QPixmap> m_thumbnail;
     QSize m_pixelSize;
     qint64 m_orderKey = 0;
     double m_exposureTime = 0.0;

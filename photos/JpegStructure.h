@@ -1,0 +1,44 @@
+// JpegStructure: a JPEG file's header segments, every segment up to and
+// including the start of the first scan (the EXIF data with its thumbnail,
+// XMP, the frame header), and whether the picture data that follows ends with
+// the end-of-image marker. Read with one read of the first 64 KiB, more only
+// when the headers are longer; whole files are never read.
+#pragma once
+
+#include <QByteArray>
+
+class QFile;
+
+class JpegStructure
+{
+public:
+    /// How much of a file is read first, to tell its kind and hold a
+    /// JPEG's usual headers in one read.
+    static constexpr qint64 FirstChunkBytes = 64 * 1024;
+
+    /// True when `firstBytes` begin with the JPEG start-of-image marker.
+    static bool hasSignature(const QByteArray& firstBytes);
+
+    /// The structure of `file`, whose first bytes `firstChunk` are already
+    /// read. Reads on from the file where the headers are longer.
+    static JpegStructure read(QFile& file, const QByteArray& firstChunk);
+
+    /// The header segments, from the start-of-image marker to where the
+    /// scan data begins. Incomplete when !headersComplete().
+    const QByteArray& headers() const { return m_headers; }
+    /// Where the scan data begins; -1 when the headers are cut short or broken.
+    qint64 scanStart() const { return m_scanStart; }
+    bool headersComplete() const { return m_scanStart >= 0; }
+
+    /// True when the headers are complete and `file` holds the end-of-image
+    /// marker after them. The scan data cannot contain the marker (0xFF is
+    /// always followed by 0x00 or a restart marker inside it), so a file cut
+    /// short in its picture data has none there. The search runs backwards
+    /// from the end, so a whole file costs a look at its last bytes; data
+    /// appended after the picture is tolerated.
+    bool isWhole(QFile& file) const;
+
+private:
+    QByteArray m_headers;
+    qint64 m_scanStart = -1;
+};
