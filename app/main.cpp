@@ -4,20 +4,16 @@
 //       the import wizard: choose a head, import, look at the result, save it;
 //   panohead import ... / panohead stitch ...
 //       the command line (see "panohead import --help").
+#include "CommandLine.h"
 #include "HostApplication.h"
 #include "ImportWizard.h"
 #include "PluginLibraryLoader.h"
-
-#ifdef ZPH_HAVE_CLI
-#include "CommandLine.h"
-#endif
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QTextStream>
 
-#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -29,18 +25,12 @@ bool isCommand(const char* argument)
 
 int runCommand(int argc, char** argv)
 {
-#ifdef ZPH_HAVE_CLI
     // The commands draw pictures but show nothing: no display is needed.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("panohead"));
     return runCommandLine(QGuiApplication::arguments().mid(1));
-#else
-    Q_UNUSED(argc);
-    std::fprintf(stderr, "panohead: this build has no command line (\"%s\")\n", argv[1]);
-    return 2;
-#endif
 }
 
 int runWizard(int argc, char** argv)

@@ -63,8 +63,8 @@ public:
     /// asked to Clear() and waited for), deletes the root object (which saves
     /// the pages' state and deletes the plug-ins and their pages). The module
     /// itself stays mapped until the process ends (the translators installed
-    /// from its resources keep reading them). The pages must no longer belong
-    /// to a wizard.
+    /// from its resources keep reading them). The pages must be out of every
+    /// wizard.
     void Unload();
 
 private:

@@ -146,7 +146,7 @@ void UIWPGigapan::Reset()
     m_converter.m_rows = 4;
     m_converter.m_stackSize = 1;
     m_converter.m_order = 0;
-    // Show the order the converter now holds.
+    // Show the order the converter holds.
     m_ui.m_rbMode0->setChecked(true);
     m_readingThread->Clear();
     m_images.clear();

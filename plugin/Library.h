@@ -3,6 +3,12 @@
 // (ZIPluginLibrary) and its own description (ZIAbout). Constructing it hands
 // the host the name of the library's translation file and the host's UI
 // instances to the UI library.
+//
+// moc writes the plug-in's entry points from Q_PLUGIN_METADATA: the metadata
+// (IID "com.zelmo.panohead", class name, the Qt version and debug flag of the
+// build) and qt_plugin_instance(), which keeps the single root object in a
+// QPointer and makes it again only after the host has deleted it. The host
+// owns the root object.
 #pragma once
 
 #include "ZIAbout.h"
@@ -15,6 +21,7 @@
 class Library : public QObject, public ZIPluginLibrary, public ZIAbout
 {
     Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.zelmo.panohead")
     Q_INTERFACES(ZIPluginLibrary ZIAbout)
 
 public:

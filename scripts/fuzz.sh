@@ -117,7 +117,7 @@ for t in "${targets[@]}"; do
   dict=$(dict_of "$t")
   [ -n "$dict" ] && args+=(-dict="$dict")
 
-  # Replay the kept findings first: each must now pass.
+  # Replay the kept findings first: each must pass.
   if [ -d "$root/fuzz/regressions/$t" ] && [ -n "$(ls -A "$root/fuzz/regressions/$t")" ]; then
     echo "== $t: replaying $(ls "$root/fuzz/regressions/$t" | wc -l) regression inputs"
     if ! "$bin" "${args[@]}" "$root/fuzz/regressions/$t"/* > "$log.replay" 2>&1; then

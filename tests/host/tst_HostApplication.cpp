@@ -171,7 +171,7 @@ void tst_HostApplication::loadsQtsOwnTranslations()
     const QStringList catalogues = host()->LoadedTranslations();
     QCOMPARE(catalogues.size(), 2);
     QCOMPARE(QFileInfo(catalogues.at(1)).fileName(), QStringLiteral("qt_de.qm"));
-    // A text of Qt's own dialogs, now in German.
+    // A text of Qt's own dialogs, in German under this locale.
     QCOMPARE(QCoreApplication::translate("QFileDialog", "&Open"), QString::fromUtf8("&Öffnen"));
     host()->RemoveTranslations();
     host()->SetLocale(QLocale::system());

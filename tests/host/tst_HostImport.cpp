@@ -4,6 +4,7 @@
 // description the host receives. Also checks what the library asks of the
 // host on the way: the translation for the German locale, the folder of the
 // chosen files, and the pages' state saved in the host's settings.
+#include "DescriptionJson.h"
 #include "HostApplication.h"
 #include "ImportResultPage.h"
 #include "ImportScenario.h"
@@ -11,8 +12,6 @@
 #include "PanoramaLayoutView.h"
 #include "PluginChoicePage.h"
 #include "PluginLibraryLoader.h"
-
-#include "DescriptionJson.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -82,6 +82,23 @@ ZIPluginLibrary* tst_Library::Catalogue()
     return qobject_cast<ZIPluginLibrary*>(m_loader.instance());
 }
 
+namespace {
+
+/// The version moc records for a plug-in: the major and minor of the Qt the
+/// build compiles against, with the patch level 0.
+constexpr int kBuildQtVersion = QT_VERSION_CHECK(QT_VERSION_MAJOR, QT_VERSION_MINOR, 0);
+
+/// moc marks a plug-in as a debug build unless QT_NO_DEBUG is defined, which
+/// the Qt targets define for every build type but Debug; this suite is built
+/// with the same type as the library.
+#ifdef QT_NO_DEBUG
+constexpr bool kDebugBuild = false;
+#else
+constexpr bool kDebugBuild = true;
+#endif
+
+} // namespace
+
 void tst_Library::metaDataBeforeLoading()
 {
     QPluginLoader loader(PluginFile());
@@ -89,12 +106,12 @@ void tst_Library::metaDataBeforeLoading()
     const QJsonObject meta = loader.metaData();
     QCOMPARE(meta.value(QLatin1String("IID")).toString(), QStringLiteral("com.zelmo.panohead"));
     QCOMPARE(meta.value(QLatin1String("className")).toString(), QStringLiteral("Library"));
-    QCOMPARE(meta.value(QLatin1String("version")).toInt(), (5 << 16) | (4 << 8) | 0);
+    QVERIFY(meta.value(QLatin1String("version")).isDouble());
+    QCOMPARE(meta.value(QLatin1String("version")).toInt(), kBuildQtVersion);
     QVERIFY(meta.value(QLatin1String("debug")).isBool());
-    QCOMPARE(meta.value(QLatin1String("debug")).toBool(), false);
-    QVERIFY(meta.value(QLatin1String("MetaData")).isObject());
-    QVERIFY(meta.value(QLatin1String("MetaData")).toObject().isEmpty());
-    QCOMPARE(meta.size(), 5);
+    QCOMPARE(meta.value(QLatin1String("debug")).toBool(), kDebugBuild);
+    // No metadata file: the plug-in declares nothing beyond its class.
+    QVERIFY(!meta.contains(QLatin1String("MetaData")));
 }
 
 void tst_Library::rootObjectAndInterfaces()
@@ -102,7 +119,9 @@ void tst_Library::rootObjectAndInterfaces()
     QObject* root = FreshRoot();
     QVERIFY(root);
     // The metadata read after loading, from the library's own entry point.
-    QCOMPARE(m_loader.metaData().value(QLatin1String("version")).toInt(), 328704);
+    QCOMPARE(m_loader.metaData().value(QLatin1String("version")).toInt(), kBuildQtVersion);
+    QCOMPARE(m_loader.metaData().value(QLatin1String("className")).toString(),
+        QStringLiteral("Library"));
     QCOMPARE(root->metaObject()->className(), "Library");
     QCOMPARE(root->objectName(), QStringLiteral("ZPanoHead"));
     QVERIFY(!root->parent());

@@ -160,7 +160,7 @@ void tst_PluginTranslations::cleanupTestCase()
 void tst_PluginTranslations::cataloguesCoverTheSources()
 {
     // Every text that the library's and the pages' sources and forms give to
-    // translation, as lupdate finds it now, stands in every catalogue.
+    // translation, as lupdate finds it in them, stands in every catalogue.
     QTemporaryDir scratch;
     QVERIFY(scratch.isValid());
     const QString probe = scratch.filePath(QStringLiteral("probe.ts"));

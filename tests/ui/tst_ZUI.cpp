@@ -109,7 +109,7 @@ void tst_ZUI::hostThenOwnRecord()
     QVERIFY(settings.useSystemFileDialog);
     QCOMPARE(ZUI::UseSystemFileDialog(), QFileDialog::Options(QFileDialog::DontUseNativeDialog));
 
-    // Now initialised: a host record is no longer adopted.
+    // Once initialised, the library keeps its own record and adopts no host record.
     ZUI::init(&instances);
     QCOMPARE(ZUI::UseSystemFileDialog(), QFileDialog::Options(QFileDialog::DontUseNativeDialog));
     ZUI::exit();
