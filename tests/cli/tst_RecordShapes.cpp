@@ -10,6 +10,7 @@
 #include "CommandLine.h"
 #include "HeadImport.h"
 #include "HuginProjectWriter.h"
+#include "MerlinToSPP.h"
 #include "PhotoFixture.h"
 #include "RecordShapes.h"
 
@@ -17,6 +18,7 @@
 #include <QFile>
 #include <QPointF>
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QtTest>
 
 #include <cmath>
@@ -71,8 +73,8 @@ QByteArray recordText(const RecordSpec& s)
         out << s.doctype << "\n";
     out << "<papywizard version=\"c\">\n";
     if (s.header) {
-        out << "  <header>\n    <general>\n      <title>Prés du lac</title>\n"
-            << "    </general>\n    <camera>\n";
+        out << "  <header>\n    <general>\n      <title>" << QStringLiteral("Prés du lac")
+            << "</title>\n    </general>\n    <camera>\n";
         if (s.bracketing)
             out << "      <bracketing nbPicts=\"" << s.exposures << "\"/>\n";
         out << "      <sensor coef=\"1.0\" ratio=\"3:2\"/>\n    </camera>\n"
@@ -309,6 +311,8 @@ private slots:
     void bracketingFromNumbers();
     void rollLeft_data();
     void rollLeft();
+    void closesCutOffDocuments_data();
+    void closesCutOffDocuments();
     void imports_data();
     void imports();
     void bracketOption();
@@ -487,6 +491,57 @@ void tst_RecordShapes::rollLeft()
     QFETCH(bool, standsPortrait);
     QFETCH(double, left);
     QCOMPARE(RecordShapes::RollLeft(recorded, standsPortrait), left);
+}
+
+void tst_RecordShapes::closesCutOffDocuments_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<int>("shots");
+
+    RecordSpec cut = fixtureSpec(QStringLiteral("cut-after-21-of-36.xml"));
+    const QByteArray utf8 = recordText(cut);
+    QTest::newRow("UTF-8") << utf8 << 21;
+    QTest::newRow("UTF-8 with a byte order mark") << QByteArray("\xEF\xBB\xBF") + utf8 << 21;
+    QByteArray latin1 = QTextCodec::codecForName("ISO-8859-1")->fromUnicode(
+        QString::fromUtf8(utf8).replace(QLatin1String("utf-8"), QLatin1String("ISO-8859-1")));
+    QTest::newRow("ISO-8859-1") << latin1 << 21;
+    cut.cutInside = true;
+    QTest::newRow("cut inside a shot") << recordText(cut) << 21;
+    cut.cutInside = false;
+    cut.comments = true;
+    QTest::newRow("cut after a comment") << recordText(cut) + "    <!-- shot 22 -->\n" << 21;
+    cut.header = false;
+    QTest::newRow("without header, cut in a comment") << recordText(cut) + "    <!-- sh" << 21;
+}
+
+void tst_RecordShapes::closesCutOffDocuments()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(int, shots);
+    const QString record = m_dir.filePath(QStringLiteral("cut.xml"));
+    QFile file(record);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(document), qint64(document.size()));
+    file.close();
+
+    RecordShapes shapes;
+    QVERIFY(shapes.read(record));
+    QVERIFY(shapes.cutOff());
+    QCOMPARE(shapes.shots().size(), shots);
+    const QString closed = m_dir.filePath(QStringLiteral("closed.xml"));
+    QFile closedFile(closed);
+    QVERIFY(closedFile.open(QIODevice::WriteOnly));
+    QVERIFY(closedFile.write(shapes.closedDocument()) > 0);
+    closedFile.close();
+    MerlinToSPP reader;
+    QVERIFY(reader.parse(closed));
+    QCOMPARE(reader.m_shoots.size(), shots);
+    QCOMPARE(reader.m_shoots.last().m_yaw, 0.0f);
+    QCOMPARE(reader.m_shoots.last().m_pitch, -15.0f);
+    if (document.contains("<header>")) {
+        QCOMPARE(reader.m_title, QStringLiteral("Prés du lac"));
+        QCOMPARE(reader.m_nbPicts, 3);
+    }
 }
 
 void tst_RecordShapes::imports_data()
@@ -747,6 +802,7 @@ void tst_RecordShapes::yawAcrossTheSeam()
     QVERIFY(!folder.isEmpty());
     QVector<QVector<ProjectImage>> images;
     QVector<QVector<AuthorizedLink>> links;
+    QStringList projects;
     for (const char* name : { "circle-yaw-0-360.xml", "circle-yaw-signed.xml" }) {
         ImportRequest request;
         request.record = fixture(QString::fromLatin1(name));
@@ -757,7 +813,10 @@ void tst_RecordShapes::yawAcrossTheSeam()
         QVERIFY2(import(request, &outcome, &project, &error), qPrintable(error));
         images << projectImages(project);
         links << outcome.input.panorama.m_links;
+        projects << project;
     }
+    // The stitch reads the project: both are the same text.
+    QCOMPARE(projects[1], projects[0]);
     QCOMPARE(images[0].size(), 12);
     QCOMPARE(images[1].size(), 12);
     for (int i = 0; i < 12; ++i) {
