@@ -27,7 +27,7 @@
 namespace {
 
 /// How a producer writes a record.
-struct RecordSpec
+struct RecordForm
 {
     /// Where the positions point: yaw, pitch in degrees.
     QVector<QPointF> positions;
@@ -63,7 +63,7 @@ QString angle(double degrees, int decimals)
 }
 
 /// The record a producer of this shape writes.
-QByteArray recordText(const RecordSpec& s)
+QByteArray recordText(const RecordForm& s)
 {
     QByteArray xml;
     QTextStream out(&xml);
@@ -98,9 +98,9 @@ QByteArray recordText(const RecordSpec& s)
             if (s.comments)
                 out << "    <!-- shot " << shot + 1 << " -->\n";
             out << "    <pict";
-            if (s.ids == RecordSpec::IdPerShot)
+            if (s.ids == RecordForm::IdPerShot)
                 out << " id=\"" << shot + 1 << "\"";
-            else if (s.ids == RecordSpec::IdPerPosition)
+            else if (s.ids == RecordForm::IdPerPosition)
                 out << " id=\"" << k + 1 << "\"";
             if (!s.number.isEmpty())
                 out << " " << s.number << "=\"" << (s.numberCountsShots ? shot + 1 : e) << "\"";
@@ -147,19 +147,19 @@ QVector<QPointF> circle(bool signedYaw)
 }
 
 /// The fixtures of data/records, by file name.
-QVector<QPair<QString, RecordSpec>> fixtureSpecs()
+QVector<QPair<QString, RecordForm>> fixtureForms()
 {
-    QVector<QPair<QString, RecordSpec>> specs;
-    const auto add = [&specs](const char* name, const RecordSpec& s) {
-        specs << qMakePair(QString::fromLatin1(name), s);
+    QVector<QPair<QString, RecordForm>> forms;
+    const auto add = [&forms](const char* name, const RecordForm& s) {
+        forms << qMakePair(QString::fromLatin1(name), s);
     };
-    RecordSpec headerless;
+    RecordForm headerless;
     headerless.header = false;
-    headerless.ids = RecordSpec::NoId;
+    headerless.ids = RecordForm::NoId;
     headerless.roll.clear();
     headerless.time = false;
 
-    RecordSpec s = headerless;
+    RecordForm s = headerless;
     s.positions = grid(5, 10, 0.0, 36.0, 20.0);
     s.exposures = 10;
     add("headerless-50x10.xml", s);
@@ -171,12 +171,12 @@ QVector<QPair<QString, RecordSpec>> fixtureSpecs()
     s.exposuresAt = { 3, 3, 2, 3, 3, 3, 3, 3 };
     add("headerless-short-position.xml", s);
     s.exposuresAt = { 3, 3, 3, 3, 3, 3, 3, 2 };
-    s.ids = RecordSpec::IdPerShot;
+    s.ids = RecordForm::IdPerShot;
     add("headerless-short-last-position.xml", s);
     s.exposuresAt = { 3, 4, 3, 3, 3, 3, 3, 3 };
     add("headerless-long-position.xml", s);
 
-    RecordSpec cut;
+    RecordForm cut;
     cut.positions = grid(2, 6, 0.0, 40.0, 30.0);
     cut.exposures = 3;
     cut.cutAfter = 21;
@@ -190,15 +190,15 @@ QVector<QPair<QString, RecordSpec>> fixtureSpecs()
     s.cutAfter = 20;
     add("headerless-cut-after-20-of-36.xml", s);
 
-    RecordSpec same;
+    RecordForm same;
     same.positions = grid(2, 4, 0.0, 40.0, 30.0);
     same.exposures = 3;
-    same.ids = RecordSpec::IdPerPosition;
+    same.ids = RecordForm::IdPerPosition;
     add("same-id-per-bracket.xml", same);
     same.header = false;
     add("headerless-same-id-per-bracket.xml", same);
 
-    RecordSpec num;
+    RecordForm num;
     num.positions = grid(2, 4, 0.0, 40.0, 30.0);
     num.header = false;
     num.exposures = 3;
@@ -209,13 +209,13 @@ QVector<QPair<QString, RecordSpec>> fixtureSpecs()
     num.numberCountsShots = true;
     add("num-counting-shots.xml", num);
 
-    RecordSpec commented;
+    RecordForm commented;
     commented.positions = grid(2, 4, 0.0, 40.0, 30.0);
     commented.exposures = 2;
     commented.comments = true;
     add("comment-before-each-shot.xml", commented);
 
-    RecordSpec precise;
+    RecordForm precise;
     precise.positions = { QPointF(-12.3456789, 10.987654321), QPointF(17.6543211, 10.987654321),
         QPointF(47.6543211, -19.012345679), QPointF(-12.3456789, -19.012345679) };
     precise.decimals = 9;
@@ -224,7 +224,7 @@ QVector<QPair<QString, RecordSpec>> fixtureSpecs()
     precise.decimals = 0;
     add("angles-whole.xml", precise);
 
-    RecordSpec portrait;
+    RecordForm portrait;
     portrait.positions = grid(2, 4, 0.0, 30.0, 40.0);
     portrait.portrait = true;
     add("portrait-header.xml", portrait);
@@ -233,19 +233,19 @@ QVector<QPair<QString, RecordSpec>> fixtureSpecs()
     portrait.portrait = false;
     add("portrait-roll-only.xml", portrait);
 
-    RecordSpec seam;
+    RecordForm seam;
     seam.positions = circle(false);
     add("circle-yaw-0-360.xml", seam);
     seam.positions = circle(true);
     add("circle-yaw-signed.xml", seam);
-    return specs;
+    return forms;
 }
 
-RecordSpec fixtureSpec(const QString& name)
+RecordForm fixtureForm(const QString& name)
 {
-    for (const auto& spec : fixtureSpecs()) {
-        if (spec.first == name)
-            return spec.second;
+    for (const auto& form : fixtureForms()) {
+        if (form.first == name)
+            return form.second;
     }
     return {};
 }
@@ -340,10 +340,10 @@ void tst_RecordShapes::initTestCase()
     if (folder.isEmpty())
         return;
     QVERIFY(QDir().mkpath(folder));
-    for (const auto& spec : fixtureSpecs()) {
-        QFile file(QDir(folder).filePath(spec.first));
+    for (const auto& form : fixtureForms()) {
+        QFile file(QDir(folder).filePath(form.first));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.write(recordText(spec.second)) >= 0);
+        QVERIFY(file.write(recordText(form.second)) >= 0);
     }
 }
 
@@ -396,10 +396,10 @@ bool tst_RecordShapes::import(
 
 void tst_RecordShapes::fixturesAreTheGeneratorsRecords()
 {
-    for (const auto& spec : fixtureSpecs()) {
-        QFile file(fixture(spec.first));
-        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(spec.first));
-        QVERIFY2(file.readAll() == recordText(spec.second), qPrintable(spec.first));
+    for (const auto& form : fixtureForms()) {
+        QFile file(fixture(form.first));
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(form.first));
+        QVERIFY2(file.readAll() == recordText(form.second), qPrintable(form.first));
     }
 }
 
@@ -498,7 +498,7 @@ void tst_RecordShapes::closesCutOffDocuments_data()
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<int>("shots");
 
-    RecordSpec cut = fixtureSpec(QStringLiteral("cut-after-21-of-36.xml"));
+    RecordForm cut = fixtureForm(QStringLiteral("cut-after-21-of-36.xml"));
     const QByteArray utf8 = recordText(cut);
     QTest::newRow("UTF-8") << utf8 << 21;
     QTest::newRow("UTF-8 with a byte order mark") << QByteArray("\xEF\xBB\xBF") + utf8 << 21;
@@ -714,13 +714,13 @@ void tst_RecordShapes::imports()
 
     // Every stack stands where its position's first shot points, and its
     // other images share that position.
-    const RecordSpec spec = fixtureSpec(record);
+    const RecordForm form = fixtureForm(record);
     const QVector<ProjectImage> images = projectImages(project);
     QCOMPARE(images.size(), stacks * stackSize);
     for (int k = 0; k < stacks; ++k) {
         const ProjectImage& reference = images[k * stackSize];
         QCOMPARE(reference.linkedTo, -1);
-        const QPointF position = spec.positions.value(k * stackSize / qMax(1, spec.exposures));
+        const QPointF position = form.positions.value(k * stackSize / qMax(1, form.exposures));
         // Yaw 180 may come out as -180: the same direction.
         QVERIFY2(std::abs(normalised(reference.yaw - position.x())) < 1e-4,
             qPrintable(QStringLiteral("stack %1: yaw %2 instead of %3")
@@ -847,10 +847,10 @@ void tst_RecordShapes::boundsKept_data()
 {
     QTest::addColumn<QByteArray>("document");
 
-    RecordSpec cut;
+    RecordForm cut;
     cut.positions = grid(1, 4, 0.0, 30.0, 0.0);
     cut.cutAfter = 3;
-    RecordSpec entities = cut;
+    RecordForm entities = cut;
     entities.doctype = QStringLiteral("<!DOCTYPE papywizard [ <!ENTITY a \"aaaaaaaaaa\"> ]>");
     QTest::newRow("entity declaration, cut off") << recordText(entities);
 
