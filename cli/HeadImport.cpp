@@ -10,11 +10,13 @@
 #include "ImageDefinition.h"
 #include "PhotoFocal.h"
 #include "PhotoReader.h"
+#include "RecordShapes.h"
 #include "VRDrive2ToSPP.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSharedPointer>
+#include <QTemporaryFile>
 
 #include <algorithm>
 
@@ -262,6 +264,40 @@ QString focalText(const Lens& lens)
         .arg(HuginProjectWriter::number(lens.focal), lens.source, lensName(lens.lens));
 }
 
+/// The bracketing of a Papywizard or VR Drive 2 record, and how many of its
+/// shots make whole positions. --bracket decides when given; else the
+/// record's `bracketing` element (1 when it states none, as on the pages);
+/// without that element the shots' own numbers. A record that ends early
+/// leaves out an incomplete last position.
+Failure chooseRecordBracketing(const ImportRequest& r, const VRDrive2ToSPP& converter,
+    const RecordShapes& shapes, int* bracket, int* used, QStringList* notes)
+{
+    const QVector<RecordShapes::Shot>& shots = shapes.shots();
+    *used = shots.size();
+    if (!r.bracketGiven && converter.m_nbPicts == -1) {
+        const RecordShapes::Bracketing b
+            = RecordShapes::BracketingFromNumbers(shots, shapes.cutOff());
+        if (!b.error.isEmpty())
+            return QStringLiteral("the record %1: %2").arg(r.record, b.error);
+        *bracket = b.count;
+        *used = b.usedShots;
+        if (b.fromNumbers && b.count > 1)
+            *notes << QStringLiteral("bracketing %1, from the shots' bracket numbers").arg(b.count);
+        return {};
+    }
+    *bracket = r.bracketGiven ? r.bracket : Bracketing::Normalised(converter.m_nbPicts);
+    if (shapes.cutOff())
+        *used -= *used % *bracket;
+    return {};
+}
+
+/// True when the photograph stands in portrait once its orientation tag is applied.
+bool standsPortrait(const ImageDefinition& photo)
+{
+    const QSize size = photo.OrientedSize();
+    return size.height() > size.width();
+}
+
 Failure importXmlRecord(const ImportRequest& r, Console& console, ImportOutcome* outcome)
 {
     const bool vrDrive = r.head == Head::VRDrive2;
@@ -269,23 +305,81 @@ Failure importXmlRecord(const ImportRequest& r, Console& console, ImportOutcome*
     const QFileInfo recordInfo(r.record);
     if (!recordInfo.exists())
         return QStringLiteral("cannot read the record %1: no such file").arg(r.record);
-    if (!converter.parse(r.record))
-        return QStringLiteral("cannot read the record %1: not a readable XML record").arg(r.record);
+    const QString unreadable
+        = QStringLiteral("cannot read the record %1: not a readable XML record").arg(r.record);
+    // A record that ends early is read from a copy closed after its last
+    // complete shot; the shared reader's bounds apply to that copy too.
+    RecordShapes shapes;
+    if (!shapes.read(r.record))
+        return unreadable;
+    QTemporaryFile closed(QDir(QDir::tempPath()).filePath(QStringLiteral("panohead-XXXXXX.xml")));
+    QString readable = r.record;
+    if (shapes.cutOff()) {
+        const QByteArray document = shapes.closedDocument();
+        if (!closed.open() || closed.write(document) != document.size() || !closed.flush())
+            return QStringLiteral("cannot read the record %1: cannot keep a closed copy (%2)")
+                .arg(r.record, closed.errorString());
+        readable = closed.fileName();
+    }
+    if (!converter.parse(readable))
+        return unreadable;
+    QVector<RecordShapes::Shot>& shots = shapes.shots();
+    if (shots.size() != converter.m_shoots.size())
+        shots = QVector<RecordShapes::Shot>(converter.m_shoots.size());
+    for (int i = 0; i < shots.size(); ++i) {
+        shots[i].yaw = converter.m_shoots[i].m_yaw;
+        shots[i].pitch = converter.m_shoots[i].m_pitch;
+    }
+
+    QStringList notes;
+    int bracket = 1;
+    int used = 0;
+    Failure f = chooseRecordBracketing(r, converter, shapes, &bracket, &used, &notes);
+    if (!f.isEmpty())
+        return f;
+    if (shapes.cutOff()) {
+        const int left = shots.size() - used;
+        QString line = QStringLiteral("the record ends early: it holds %1")
+                           .arg(HeadImport::CountText(shots.size(), "complete shot",
+                               "complete shots"));
+        if (left > 0)
+            line += QStringLiteral("; the %1 of its incomplete last position %2 left out")
+                        .arg(HeadImport::CountText(left, "shot", "shots"),
+                            left == 1 ? QStringLiteral("is") : QStringLiteral("are"));
+        notes << line;
+        if (used == 0)
+            return QStringLiteral("the record %1 ends early, before its first complete position")
+                .arg(r.record);
+    }
+
     Photos photos;
-    Failure f = collectPhotos(r, &photos.paths);
+    f = collectPhotos(r, &photos.paths);
     if (!f.isEmpty())
         return f;
-    f = checkRecordCount(converter.m_shoots.size(), photos.paths.size());
+    // A record that ends early holds the first shots of the photographs.
+    f = checkRecordCount(used, shapes.cutOff() ? qMin(used, int(photos.paths.size()))
+                                               : int(photos.paths.size()));
     if (!f.isEmpty())
         return f;
-    // The pages go on with a bracketing of 1 when the record gives none.
-    const int bracket = Bracketing::Normalised(converter.m_nbPicts);
-    f = checkBracketing(photos.paths.size(), bracket);
+    f = checkBracketing(used, bracket);
     if (!f.isEmpty())
         return f;
     f = readPhotos(r, console, &photos);
     if (!f.isEmpty())
         return f;
+    if (photos.paths.size() > used) {
+        QStringList names;
+        for (int i = used; i < photos.paths.size(); ++i)
+            names << QFileInfo(photos.paths[i]).fileName();
+        notes << QStringLiteral("%1 after the record's shots not used: %2")
+                     .arg(HeadImport::CountText(names.size(), "photograph", "photographs"),
+                         names.join(QStringLiteral(", ")));
+        photos.paths = photos.paths.mid(0, used);
+        photos.definitions.resize(used);
+    }
+    converter.m_shoots.resize(used);
+    shots.resize(used);
+
     Lens lens;
     QString note;
     f = chooseRecordedLens(
@@ -293,12 +387,36 @@ Failure importXmlRecord(const ImportRequest& r, Console& console, ImportOutcome*
     if (!f.isEmpty())
         return f;
 
-    // The page's "Inverse Y coordinates" and rotation buttons change the shots.
-    for (ShootData& shot : converter.m_shoots) {
+    // The camera's roll as the record gives it (portrait: 90), less the
+    // quarter turn a photograph standing in portrait already has; then the
+    // page's "Inverse Y coordinates" and rotation buttons.
+    int turned = 0;
+    int upright = 0;
+    double portraitRoll = 0.0;
+    for (int i = 0; i < used; ++i) {
+        ShootData& shot = converter.m_shoots[i];
+        const double recorded = RecordShapes::RecordedRoll(shots[i], converter.m_portrait);
+        const double left = RecordShapes::RollLeft(recorded, standsPortrait(*photos.definitions[i]));
+        if (recorded != left) {
+            ++upright;
+            portraitRoll = recorded;
+        } else if (recorded != 0.0) {
+            ++turned;
+            portraitRoll = recorded;
+        }
+        shot.m_roll = float(left);
         if (r.invertPitch)
             shot.m_pitch = -shot.m_pitch;
         shot.m_roll += float(r.rotate);
     }
+    if (turned + upright > 0)
+        notes << QStringLiteral("camera roll %1° from the record%2: %3 turned by it, %4 upright as "
+                                "stored or by %5 orientation tag")
+                     .arg(HuginProjectWriter::number(portraitRoll),
+                         converter.m_portrait ? QStringLiteral(" (portrait)") : QString(),
+                         HeadImport::CountText(turned, "photograph", "photographs"))
+                     .arg(upright)
+                     .arg(upright == 1 ? QStringLiteral("its") : QStringLiteral("their"));
     converter.m_nbPicts = bracket;
     if (vrDrive)
         converter.VRDrive2ToSPP::generateSPP(photos.paths, photos.list(), lens.focal, lens.lens);
@@ -315,6 +433,8 @@ Failure importXmlRecord(const ImportRequest& r, Console& console, ImportOutcome*
                                HeadImport::CountText(converter.m_shoots.size(), "shot", "shots"))
                            .arg(bracket)
                            .arg(focalText(lens), note);
+    for (const QString& line : qAsConst(notes))
+        outcome->summary += QLatin1Char('\n') + line;
     return finish(converter, photos, lens, outcome);
 }
 

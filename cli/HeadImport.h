@@ -37,6 +37,9 @@ struct ImportRequest
     /// position, photographs skipped at the start, shooting order, 360°.
     int rows = 0;
     int bracket = 1;
+    /// --bracket was given: for Papywizard and VR Drive 2 it replaces the
+    /// bracketing the record states or its shots' numbers give.
+    bool bracketGiven = false;
     int skip = 0;
     int order = 0;
     bool force360 = false;

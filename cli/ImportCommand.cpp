@@ -112,7 +112,7 @@ Failure parseChoices(const QStringList& arguments, Choices* c, bool* helpOnly)
         { &rotate, xmlRecord },
         { &outputMode, ImportOptions::OffersOutputMode(r.head) },
         { &rows, gigapan },
-        { &bracket, gigapan },
+        { &bracket, gigapan || xmlRecord },
         { &skip, gigapan },
         { &order, gigapan },
         { &overlap, ImportOptions::OffersOverlap(r.head) },
@@ -194,6 +194,7 @@ Failure parseChoices(const QStringList& arguments, Choices* c, bool* helpOnly)
         return usage(QStringLiteral("--bracket is a number from %1 to %2")
                          .arg(FormLimits::MinBracket)
                          .arg(FormLimits::MaxBracket));
+    r.bracketGiven = parser.isSet(bracket);
     if (parser.isSet(skip)
         && !parseInteger(parser.value(skip), FormLimits::MinSkip, FormLimits::MaxSkip, &r.skip))
         return usage(QStringLiteral("--skip is a number of photographs from %1 to %2")
@@ -341,7 +342,8 @@ QString ImportCommand::help()
         "                            (papywizard, vrdrive2)\n"
         "  --output-mode <mode>      tonemapped (default) or hdr (vrdrive2)\n"
         "  --rows <n>                grid rows (gigapan; default: as the page proposes)\n"
-        "  --bracket <n>             photographs per position (gigapan; default 1)\n"
+        "  --bracket <n>             photographs per position (gigapan: default 1;\n"
+        "                            papywizard, vrdrive2: replaces the record's)\n"
         "  --skip <n>                photographs to ignore at the start (gigapan)\n"
         "  --order <order>           columns (default), rows-down, rows-up, columns-left,\n"
         "                            serpentine, or 0 to 4 (gigapan)\n"
@@ -359,6 +361,18 @@ QString ImportCommand::help()
         "  --stitch                  stitch the panorama right away (see panohead stitch)\n"
         "  --tools <folder>          with --stitch: where Hugin's programs are\n"
         "  -h, --help                this text\n"
+        "\n"
+        "Papywizard and VR Drive 2 records as head software writes them:\n"
+        "  - without a bracketing element, the shots' bracket (or num) numbers,\n"
+        "    1...n at every position, give the bracketing; numbers that do not repeat\n"
+        "    so are an error naming the first shot out of step (--bracket decides).\n"
+        "  - a record that ends early (a run cut short) is read up to its last\n"
+        "    complete shot, less an incomplete last position; the photographs after\n"
+        "    those shots are named and not used.\n"
+        "  - a portrait record (cameraOrientation portrait, or a roll on each\n"
+        "    position) turns the photographs that do not already stand in portrait,\n"
+        "    as stored or by their orientation tag.\n"
+        "  (The import pages read these records as the complete shape only.)\n"
         "\n"
         "Exit code: 0 done, 1 the import failed, 2 the command line is wrong.\n");
 }
