@@ -32,16 +32,11 @@ QStringList PluginLibraryLoader::SearchFolders(const QStringList& extraFolders)
         // The build tree: the program lives in <build>/app or <build>/tests/...
         folders << program + QLatin1String("/../plugins");
     }
-#ifdef ZPH_BUILD_PLUGIN_DIR
+    // The build tree's plug-in folder, then where installing puts it.
     folders << QStringLiteral(ZPH_BUILD_PLUGIN_DIR);
-#endif
-#ifdef ZPH_INSTALL_PLUGIN_DIR_RELATIVE
     if (!program.isEmpty())
         folders << program + QLatin1Char('/') + QStringLiteral(ZPH_INSTALL_PLUGIN_DIR_RELATIVE);
-#endif
-#ifdef ZPH_INSTALL_PLUGIN_DIR
     folders << QStringLiteral(ZPH_INSTALL_PLUGIN_DIR);
-#endif
     QStringList unique;
     for (const QString& folder : folders) {
         const QString clean = QDir::cleanPath(folder);
