@@ -5,6 +5,7 @@
 //   panohead import ... / panohead stitch ...
 //       the command line (see "panohead import --help").
 #include "HostApplication.h"
+#include "HostWindow.h"
 #include "ImportWizard.h"
 #include "PluginLibraryLoader.h"
 
@@ -81,7 +82,8 @@ int runWizard(int argc, char** argv)
     int result = 0;
     {
         ImportWizard wizard(&app, &loader);
-        wizard.show();
+        HostWindow window(&app, &wizard);
+        window.show();
         result = app.exec();
     }
     // The wizard has handed the pages back; the library saves and deletes them.
