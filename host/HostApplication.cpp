@@ -145,6 +145,8 @@ void HostApplication::SetLanguage(const QString& name)
 
 bool HostApplication::LoadHostTranslation()
 {
+    // The catalogues are resources of a static library: registered by hand.
+    Q_INIT_RESOURCE(panohead_translations);
     if (m_hostTranslator) {
         removeTranslator(m_hostTranslator);
         delete m_hostTranslator;
