@@ -679,7 +679,8 @@ const QPixmap& ImageDefinition::Thumbnail() const
 
 float ImageDefinition::FocalLength() const
 {
-    return m_focalLength;
+    // The full-frame equivalent the records and the exports work in.
+    return m_focalLength35mm > 0.0f ? m_focalLength35mm : m_focalLength;
 }
 
 int ImageDefinition::LensType() const

@@ -57,7 +57,9 @@ public:
     /// decoded image (sharing its pixels). A null pixmap when there is no
     /// thumbnail or when called off the GUI thread (logged).
     const QPixmap& Thumbnail() const override;
-    /// Millimetres; 0 when the EXIF data holds none.
+    /// Millimetres, the 35 mm (full-frame) equivalent when the EXIF data
+    /// gives one (FocalLengthIn35mmFilm), else the lens's own focal length;
+    /// 0 when the EXIF data holds neither.
     float FocalLength() const override;
     /// 1 (fisheye) when the EXIF lens description says "fisheye" or
     /// "fish-eye" (any case), else 0 (standard).

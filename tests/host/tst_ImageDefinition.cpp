@@ -436,6 +436,8 @@ void tst_ImageDefinition::extraFigures()
     QVERIFY(def);
     QCOMPARE(def->CropFactor(), 1.5);
     QCOMPARE(def->FocalLength35mm(), 24.0f);
+    // The focal length handed to the pages is the full-frame equivalent.
+    QCOMPARE(def->FocalLength(), 24.0f);
     QCOMPARE(def->ExposureTime(), 1.0 / 250.0);
     QCOMPARE(def->Aperture(), 8.0);
     QCOMPARE(def->CameraMake(), QStringLiteral("Zcam"));

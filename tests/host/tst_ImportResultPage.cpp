@@ -162,6 +162,8 @@ private slots:
     void wizardLockedWhileStitching();
     void windowKeepsItsSize();
     void settingsDialog();
+    void hostCatalogues_data();
+    void hostCatalogues();
 
 private:
     /// A tools folder with well-behaved stand-ins, `changes` replacing some.
@@ -652,6 +654,49 @@ void tst_ImportResultPage::settingsDialog()
     QCOMPARE(host()->Locale().name(), QStringLiteral("fr_FR"));
     host()->SetLanguage(QString());
     host()->SetSettingsFile(settingsPath());
+}
+
+void tst_ImportResultPage::hostCatalogues_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("stitch");
+    QTest::addColumn<QString>("remapping");
+    QTest::newRow("fr_FR") << "fr_FR" << QStringLiteral("Assembler le panorama...")
+                           << QStringLiteral("Reprojection");
+    QTest::newRow("de") << "de" << QStringLiteral("Panorama zusammenfügen...")
+                        << QStringLiteral("Umrechnen");
+    QTest::newRow("es") << "es" << QStringLiteral("Coser panorama...")
+                        << QStringLiteral("Reproyectando");
+    QTest::newRow("it") << "it" << QStringLiteral("Unisci panorama...")
+                        << QStringLiteral("Riproiezione");
+    QTest::newRow("pl") << "pl" << QStringLiteral("Sklej panoramę...")
+                        << QStringLiteral("Przekształcanie");
+    QTest::newRow("ru") << "ru" << QStringLiteral("Сшить панораму...")
+                        << QStringLiteral("Перепроецирование");
+    QTest::newRow("ja") << "ja" << QStringLiteral("パノラマをスティッチ...")
+                        << QStringLiteral("リマップ");
+    QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("拼接全景图...")
+                           << QStringLiteral("重映射");
+    QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("拼接全景圖...")
+                           << QStringLiteral("重新映射");
+    QTest::newRow("en_GB") << "en_GB" << QStringLiteral("Stitch panorama...")
+                           << QStringLiteral("Remapping");
+}
+
+void tst_ImportResultPage::hostCatalogues()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, stitch);
+    QFETCH(QString, remapping);
+    host()->SetLocale(QLocale(locale));
+    QVERIFY(host()->LoadHostTranslation());
+    ImportResultPage page(host());
+    QCOMPARE(page.findChild<QPushButton*>(QStringLiteral("m_pbStitch"))->text(), stitch);
+    QCOMPARE(StitchProgressWidget::StepName(QStringLiteral("Remapping")), remapping);
+    host()->SetLocale(QLocale::c());
+    QVERIFY(!host()->LoadHostTranslation());
+    QCOMPARE(
+        StitchProgressWidget::StepName(QStringLiteral("Remapping")), QStringLiteral("Remapping"));
 }
 
 int main(int argc, char** argv)
