@@ -472,10 +472,9 @@ bool ImportResultPage::StartStitch(const QString& panorama, QString* error)
     options.project = project;
     options.output = output.absoluteFilePath();
     options.tools = tools;
-    // Every stitch starts from a clean work folder.
+    // The intermediate files go beside the panorama, in "<panorama>.stitch".
     options.workFolder
         = folder.filePath(QFileInfo(options.output).completeBaseName() + QStringLiteral(".stitch"));
-    QDir(options.workFolder).removeRecursively();
     m_lastStitch = StitchPipeline::Result();
     m_preview->Clear();
     m_tabs->setTabEnabled(1, false);

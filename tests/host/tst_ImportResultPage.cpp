@@ -25,6 +25,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -161,6 +162,7 @@ private slots:
     void finishWithUnsavedWork();
     void wizardLockedWhileStitching();
     void windowKeepsItsSize();
+    void smallScreenScrolls();
     void settingsDialog();
     void hostCatalogues_data();
     void hostCatalogues();
@@ -625,6 +627,33 @@ void tst_ImportResultPage::windowKeepsItsSize()
     // A first start fits a 1366 × 768 screen.
     const QSize first = HostWindow::DefaultSize(QSize(1366, 738));
     QVERIFY(first.width() <= 1366 - 40 && first.height() <= 738 - 60);
+}
+
+void tst_ImportResultPage::smallScreenScrolls()
+{
+    // A page with the plug-in pages' 600 × 600 minimum in a window the size
+    // of a 1366 × 768 screen less its panel and frame.
+    PluginLibraryLoader loader;
+    ImportWizard wizard(host(), &loader);
+    auto* page = new QWizardPage;
+    page->setMinimumSize(600, 600);
+    wizard.setPage(ImportWizard::FirstPluginPageId, page);
+    HostWindow window(host(), &wizard);
+    window.show();
+    window.resize(700, 560);
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    wizard.setStartId(ImportWizard::FirstPluginPageId);
+    wizard.restart();
+    QCOMPARE(wizard.currentPage(), page);
+    QApplication::processEvents();
+    // The page keeps its size; the window scrolls to the wizard's buttons.
+    QVERIFY(page->height() >= 600);
+    QScrollBar* bar = window.ScrollArea()->verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    QAbstractButton* next = wizard.button(QWizard::NextButton);
+    window.ScrollArea()->ensureWidgetVisible(next);
+    const QRect shown(next->mapTo(window.ScrollArea()->viewport(), QPoint(0, 0)), next->size());
+    QVERIFY(window.ScrollArea()->viewport()->rect().contains(shown));
 }
 
 void tst_ImportResultPage::settingsDialog()
