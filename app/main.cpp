@@ -6,6 +6,7 @@
 //       the command line (see "panohead import --help").
 #include "CommandLine.h"
 #include "HostApplication.h"
+#include "HostWindow.h"
 #include "ImportWizard.h"
 #include "PluginLibraryLoader.h"
 
@@ -71,7 +72,8 @@ int runWizard(int argc, char** argv)
     int result = 0;
     {
         ImportWizard wizard(&app, &loader);
-        wizard.show();
+        HostWindow window(&app, &wizard);
+        window.show();
         result = app.exec();
     }
     // The wizard has handed the pages back; the library saves and deletes them.

@@ -15,6 +15,10 @@ const char* const HostApplication::SettingsSection = "Host";
 const char* const HostApplication::DefaultFolderKey = "DefaultFolder";
 const char* const HostApplication::NativeFileDialogKey = "NativeFileDialogs";
 const char* const HostApplication::ApplicationKindKey = "ApplicationKind";
+const char* const HostApplication::ToolsFolderKey = "ToolsFolder";
+const char* const HostApplication::OutputFolderKey = "OutputFolder";
+const char* const HostApplication::LanguageKey = "Language";
+const char* const HostApplication::WindowSizeKey = "WindowSize";
 
 namespace {
 
@@ -68,6 +72,8 @@ void HostApplication::SetSettingsFile(const QString& path)
         m_settings.reset(new QSettings(path, QSettings::IniFormat));
     m_uiSettings.useSystemFileDialog
         = m_settings->value(hostKey(NativeFileDialogKey), true).toBool();
+    const QString language = Language();
+    m_locale = language.isEmpty() ? QLocale() : QLocale(language);
 }
 
 HostApplication::~HostApplication()
@@ -99,6 +105,63 @@ void HostApplication::SetDefaultFolder(const QString& path)
     const QFileInfo info(path);
     const QString folder = info.isDir() ? info.absoluteFilePath() : info.absolutePath();
     m_settings->setValue(hostKey(DefaultFolderKey), folder);
+    if (!info.isDir())
+        m_lastChosenFile = info.absoluteFilePath();
+}
+
+QString HostApplication::ToolsFolder() const
+{
+    return m_settings->value(hostKey(ToolsFolderKey)).toString();
+}
+
+void HostApplication::SetToolsFolder(const QString& folder)
+{
+    m_settings->setValue(hostKey(ToolsFolderKey), folder);
+}
+
+QString HostApplication::OutputFolder()
+{
+    const QString stored = m_settings->value(hostKey(OutputFolderKey)).toString();
+    if (!stored.isEmpty() && QFileInfo(stored).isDir())
+        return stored;
+    return DefaultFolder();
+}
+
+void HostApplication::SetOutputFolder(const QString& folder)
+{
+    if (!folder.isEmpty())
+        m_settings->setValue(hostKey(OutputFolderKey), QFileInfo(folder).absoluteFilePath());
+}
+
+QString HostApplication::Language() const
+{
+    return m_settings->value(hostKey(LanguageKey)).toString();
+}
+
+void HostApplication::SetLanguage(const QString& name)
+{
+    m_settings->setValue(hostKey(LanguageKey), name);
+}
+
+bool HostApplication::LoadHostTranslation()
+{
+    // The catalogues are resources of a static library: registered by hand.
+    Q_INIT_RESOURCE(panohead_translations);
+    if (m_hostTranslator) {
+        removeTranslator(m_hostTranslator);
+        delete m_hostTranslator;
+        m_hostTranslator = nullptr;
+    }
+    auto* translator = new QTranslator(this);
+    if (!translator->load(m_locale, QStringLiteral("panohead"), QStringLiteral("_"),
+            QStringLiteral(":/HostTranslation"))) {
+        qCDebug(lcHost) << "no host catalogue for" << m_locale.name();
+        delete translator;
+        return false;
+    }
+    installTranslator(translator);
+    m_hostTranslator = translator;
+    return true;
 }
 
 QVariant HostApplication::GetSetting(
@@ -177,6 +240,7 @@ void HostApplication::RemoveTranslations()
         removeTranslator(translator);
         delete translator;
     }
+    m_hostTranslator = nullptr;
     m_translators.clear();
     m_loadedTranslations.clear();
     m_qtTranslationsLocale.clear();

@@ -35,6 +35,10 @@ public:
     static const char* const DefaultFolderKey;
     static const char* const NativeFileDialogKey;
     static const char* const ApplicationKindKey;
+    static const char* const ToolsFolderKey;
+    static const char* const OutputFolderKey;
+    static const char* const LanguageKey;
+    static const char* const WindowSizeKey;
 
     /// `settingsFile` empty: the user's settings (organisation "Zelmo",
     /// application "panohead"); otherwise an INI file at that path, which
@@ -84,6 +88,26 @@ public:
     ZIPluginLibrary::APX ApplicationKind() const;
     void SetApplicationKind(ZIPluginLibrary::APX apx);
 
+    /// The folder of Hugin's programs; empty: they are looked up in PATH.
+    QString ToolsFolder() const;
+    void SetToolsFolder(const QString& folder);
+    /// The folder the last panorama or project was written to; the default
+    /// folder until one was.
+    QString OutputFolder();
+    void SetOutputFolder(const QString& folder);
+    /// The language chosen in the window ("fr_FR"); empty: the system's.
+    /// Read once, when the application object starts (the plug-in library
+    /// asks for its language when it is loaded): a change applies from the
+    /// next start. The --locale option overrides it.
+    QString Language() const;
+    void SetLanguage(const QString& name);
+    /// The last file a page handed to SetDefaultFolder (the head's record
+    /// or a photograph); empty before.
+    QString LastChosenFile() const { return m_lastChosenFile; }
+    /// Installs the host's own catalogue ("panohead_fr.qm" under
+    /// ":/HostTranslation/") for Locale(); false when there is none.
+    bool LoadHostTranslation();
+
     /// Removes and deletes every translator LoadTranslation installed.
     void RemoveTranslations();
     /// The resource paths of the catalogues installed so far, in order.
@@ -119,6 +143,8 @@ private:
     QHash<QString, QTranslator*> m_translators;
     QStringList m_loadedTranslations;
     QString m_qtTranslationsLocale;
+    QString m_lastChosenFile;
+    QTranslator* m_hostTranslator = nullptr;
     /// A std::mutex: ThreadSanitizer sees its locking, while QMutex's contended
     /// path runs inside Qt, which is not built for the sanitizer.
     mutable std::mutex m_imageDefsMutex;

@@ -1,23 +1,37 @@
 #include "ImportWizard.h"
 
 #include "HostApplication.h"
+#include "HostSettingsDialog.h"
 #include "ImportResultPage.h"
 #include "PluginChoicePage.h"
 #include "PluginLibraryLoader.h"
 #include "ZIAbout.h"
 #include "ZIPluginImport.h"
 
+#include <QAbstractButton>
 #include <QDir>
+#include <QMessageBox>
 
 const char* const ImportWizard::LastPluginKey = "LastPlugin";
 
 ImportWizard::ImportWizard(HostApplication* host, PluginLibraryLoader* loader, QWidget* parent)
     : QWizard(parent), m_host(host)
 {
+    // The host's own texts in the host's language, before any is made.
+    host->LoadHostTranslation();
     setObjectName(QStringLiteral("ImportWizard"));
     setWindowTitle(tr("panohead: import a panorama"));
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::NoBackButtonOnStartPage);
+    setOption(QWizard::HaveCustomButton1);
+    setButtonText(QWizard::CustomButton1, tr("Settings..."));
+    button(QWizard::CustomButton1)->setObjectName(QStringLiteral("m_pbSettings"));
+    setButtonLayout({ QWizard::CustomButton1, QWizard::Stretch, QWizard::BackButton,
+        QWizard::NextButton, QWizard::FinishButton, QWizard::CancelButton });
+    connect(this, &QWizard::customButtonClicked, this, [this](int which) {
+        if (which == QWizard::CustomButton1)
+            ShowSettings();
+    });
 
     QString libraryText;
     if (ZIAbout* about = loader->About())
@@ -31,6 +45,7 @@ ImportWizard::ImportWizard(HostApplication* host, PluginLibraryLoader* loader, Q
     setStartId(ChoicePageId);
 
     connect(m_choicePage, &PluginChoicePage::PluginChosen, this, &ImportWizard::SetPlugin);
+    connect(m_resultPage, &ImportResultPage::StitchingChanged, this, &ImportWizard::OnStitching);
     const QString last = host->GetSetting(QLatin1String(HostApplication::SettingsSection),
                                  QLatin1String(LastPluginKey), QVariant())
                              .toString();
@@ -41,6 +56,43 @@ ImportWizard::ImportWizard(HostApplication* host, PluginLibraryLoader* loader, Q
 ImportWizard::~ImportWizard()
 {
     DetachPluginPages();
+}
+
+void ImportWizard::done(int result)
+{
+    if (m_resultPage->IsStitching() || m_unsavedQuestion)
+        return;
+    if (m_resultPage->HasUnsavedImport()) {
+        QMessageBox box(QMessageBox::Question, tr("Unsaved import"),
+            tr("The imported panorama was neither saved nor stitched. Save its project first?"),
+            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+        box.setObjectName(QStringLiteral("m_mbUnsaved"));
+        box.setDefaultButton(QMessageBox::Save);
+        m_unsavedQuestion = &box;
+        const int answer = box.exec();
+        m_unsavedQuestion = nullptr;
+        if (answer == QMessageBox::Cancel)
+            return;
+        if (answer == QMessageBox::Save && !m_resultPage->SaveProjectWithDialog())
+            return;
+    }
+    QWizard::done(result);
+}
+
+void ImportWizard::ShowSettings()
+{
+    HostSettingsDialog dialog(m_host, this);
+    dialog.exec();
+}
+
+void ImportWizard::OnStitching(bool running)
+{
+    // The page's completeChanged() has let the wizard set its buttons; Back
+    // and Cancel follow the stitch here.
+    if (QAbstractButton* back = button(QWizard::BackButton))
+        back->setEnabled(!running);
+    if (QAbstractButton* cancel = button(QWizard::CancelButton))
+        cancel->setEnabled(!running);
 }
 
 void ImportWizard::SetPlugin(QObject* plugin)

@@ -2,14 +2,18 @@
 // plug-in; then the chosen plug-in's own pages; last: what was imported.
 // The plug-in pages are the library's: the wizard hands them back (out of its
 // widget tree) when another plug-in is chosen and when it is destroyed, so the
-// library can save their state and delete them itself.
+// library can save their state and delete them itself. While the last page
+// stitches, the wizard can be neither left nor finished; an import that was
+// never saved is not thrown away without asking.
 #pragma once
 
 #include <QList>
+#include <QMessageBox>
 #include <QPointer>
 #include <QWizard>
 
 class HostApplication;
+
 class ImportResultPage;
 class PluginChoicePage;
 class PluginLibraryLoader;
@@ -27,6 +31,16 @@ public:
     ImportWizard(HostApplication* host, PluginLibraryLoader* loader, QWidget* parent = nullptr);
     ~ImportWizard() override;
 
+    /// Finish and Cancel: refused while a stitch runs; with an unsaved
+    /// import, asks Save / Discard / Cancel first.
+    void done(int result) override;
+
+    /// The question done() asks about an unsaved import, open while it asks;
+    /// null otherwise (the tests answer it).
+    QMessageBox* UnsavedQuestion() const { return m_unsavedQuestion; }
+    /// Opens the host's settings.
+    void ShowSettings();
+
     PluginChoicePage* ChoicePage() const { return m_choicePage; }
     ImportResultPage* ResultPage() const { return m_resultPage; }
     /// The pages of the chosen plug-in, as inserted.
@@ -34,6 +48,7 @@ public:
 
 private:
     void SetPlugin(QObject* plugin);
+    void OnStitching(bool running);
     void DetachPluginPages();
 
     HostApplication* m_host;
@@ -41,4 +56,5 @@ private:
     ImportResultPage* m_resultPage = nullptr;
     QList<QWizardPage*> m_pluginPages;
     QPointer<QObject> m_plugin;
+    QPointer<QMessageBox> m_unsavedQuestion;
 };

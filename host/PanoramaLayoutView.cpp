@@ -82,6 +82,13 @@ void PanoramaLayoutView::SetPanorama(const StructuredPanoramaProperties& record)
 {
     m_record = record;
     m_layout = StackPositions(record);
+    m_picture = QImage();
+    update();
+}
+
+void PanoramaLayoutView::SetPicture(const QImage& picture)
+{
+    m_picture = picture;
     update();
 }
 
@@ -114,6 +121,13 @@ QImage PanoramaLayoutView::Render(const QSize& size) const
 
 void PanoramaLayoutView::Draw(QPainter& painter, const QRectF& area) const
 {
+    if (!m_picture.isNull()) {
+        const QSizeF shown = QSizeF(m_picture.size()).scaled(area.size(), Qt::KeepAspectRatio);
+        const QRectF target(area.center() - QPointF(shown.width(), shown.height()) / 2.0, shown);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, m_picture);
+        return;
+    }
     const QVector<QPointF>& points = m_layout.positions;
     painter.setPen(palette().color(QPalette::Text));
     if (points.isEmpty()) {

@@ -1,11 +1,14 @@
 // PanoramaLayoutView: draws the positions of a panorama description and the
-// authorised links between them: one dot per stack, placed by its yaw and
-// pitch (or, for a grid without angles, by its row and column), and one line
-// per link, coloured by direction.
+// authorised links between them. Given the layout picture (thumbnails at
+// their positions, the links and the stack numbers) it shows that, scaled to
+// the widget; otherwise one dot per stack, placed by its yaw and pitch (or,
+// for a grid without angles, by its row and column), and one line per link,
+// coloured by direction.
 #pragma once
 
 #include "StructuredPanoramaProperties.h"
 
+#include <QImage>
 #include <QPointF>
 #include <QVector>
 #include <QWidget>
@@ -30,7 +33,12 @@ public:
 
     explicit PanoramaLayoutView(QWidget* parent = nullptr);
 
+    /// Also forgets the picture.
     void SetPanorama(const StructuredPanoramaProperties& record);
+    /// The layout picture to show instead of the dots (LayoutPicture::render);
+    /// a null image brings the dots back.
+    void SetPicture(const QImage& picture);
+    QImage Picture() const { return m_picture; }
     /// Draws the layout into `size` pixels with the widget's palette.
     QImage Render(const QSize& size) const;
 
@@ -45,4 +53,5 @@ private:
 
     StructuredPanoramaProperties m_record;
     Layout m_layout;
+    QImage m_picture;
 };

@@ -4,21 +4,28 @@
 //   host-2-<plugin>-dialog.png      the file dialog with the files picked
 //   host-3-<plugin>-page.png        the plug-in's page once every photo is read
 //   host-4-<plugin>-result.png      what the host received
+//   host-5-stitch-progress.png      the bundled sample stitching from the result page
+//   host-6-stitch-result.png        the stitched panorama on the result page
 // Usage: zph_host_screenshots <output folder>   (run by scripts/host-screenshots.sh
 // under Xvfb; any X display works).
 #include "HostApplication.h"
+#include "ImportResultPage.h"
 #include "ImportScenario.h"
 #include "ImportWizard.h"
 #include "PluginChoicePage.h"
 #include "PluginLibraryLoader.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QPushButton>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QThread>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
@@ -46,6 +53,65 @@ bool grab(QWidget* window, const QString& path)
     }
     QTextStream(stdout) << "wrote " << path << "\n";
     return true;
+}
+
+/// Imports the bundled sample through the Papywizard page, presses "Stitch
+/// panorama..." and takes the progress (while the pictures are remapped) and
+/// the finished panorama.
+bool stitchSample(
+    ImportWizard* wizard, ImportScenario* scenario, const QString& work, const QDir& out)
+{
+    const QDir shoot(QStringLiteral(ZPH_SAMPLE_SHOOT));
+    wizard->restart();
+    wizard->ChoicePage()->ChoosePlugin(ImportScenario::Uid(QStringLiteral("Papywizard")));
+    wizard->next();
+    if (wizard->PluginPages().isEmpty())
+        return false;
+    QWizardPage* page = wizard->PluginPages().first();
+    QStringList names { QStringLiteral("shoot.xml") };
+    names << shoot.entryList({ QStringLiteral("IMG_*.jpg") }, QDir::Files, QDir::Name);
+    scenario->onDialog = nullptr;
+    scenario->AnswerNextFileDialog(shoot.path(), names);
+    page->findChild<QAbstractButton*>(QStringLiteral("m_pbSelectConfigFile"))->click();
+    QElapsedTimer clock;
+    clock.start();
+    while (!page->isComplete() && clock.elapsed() < 60000)
+        settle(50);
+    wizard->next();
+    ImportResultPage* result = wizard->ResultPage();
+    if (wizard->currentPage() != result)
+        return false;
+
+    bool ok = true;
+    bool progressTaken = false;
+    QObject::connect(
+        result, &ImportResultPage::StitchStep, result, [&](const StitchPipeline::StepEvent& event) {
+            if (!progressTaken && event.phase == StitchPipeline::StepEvent::Started
+                && event.tool == QLatin1String("nona")) {
+                progressTaken = true;
+                ok = grab(wizard, out.filePath(QStringLiteral("host-5-stitch-progress.png"))) && ok;
+            }
+        });
+    HostApplication::instance()->SetOutputFolder(work);
+    // The dialog proposes shoot.jpg in the output folder: accepted as it is.
+    auto* answer = new QTimer(wizard);
+    answer->setInterval(20);
+    QObject::connect(answer, &QTimer::timeout, answer, [answer] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        answer->stop();
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    answer->start();
+    QSignalSpy finished(result, &ImportResultPage::StitchFinished);
+    result->findChild<QPushButton*>(QStringLiteral("m_pbStitch"))->click();
+    if (!finished.wait(600000) || !result->LastStitch().succeeded()) {
+        QTextStream(stderr) << "the sample's stitch failed: " << result->LastStitch().error << "\n";
+        return false;
+    }
+    return grab(wizard, out.filePath(QStringLiteral("host-6-stitch-result.png"))) && ok
+        && progressTaken;
 }
 
 } // namespace
@@ -104,6 +170,8 @@ int main(int argc, char** argv)
             if (!grab(&wizard, out.filePath(QStringLiteral("host-4-%1-result.png").arg(name))))
                 result = 1;
         }
+        if (!stitchSample(&wizard, &scenario, work.path(), out))
+            result = 1;
     }
     loader.Unload();
     app.ReleaseImageDefinitions();
