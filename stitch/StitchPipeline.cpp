@@ -216,9 +216,15 @@ Outcome optimiseInto(Stitch& s, const QString& output)
     const bool points = !s.currentProject.controlPoints().isEmpty();
     QStringList arguments;
     if (points && !s.panorama.m_skipOptimization)
-        arguments << QStringLiteral("-a") << QStringLiteral("-m") << QStringLiteral("-l");
-    else if (points)
-        arguments << QStringLiteral("-m") << QStringLiteral("-l");
+        arguments << QStringLiteral("-a");
+    // Photometric optimisation brings single pictures to one exposure. Fused
+    // stacks keep every exposure as shot and HDR takes the recorded exposure
+    // values, so for stacks it would cost time (a third of the optimiser's
+    // on a shoot of 3 exposures) and change nothing in the panorama.
+    if (points && !s.stacked)
+        arguments << QStringLiteral("-m");
+    if (points)
+        arguments << QStringLiteral("-l");
     arguments << QStringLiteral("-s");
     arguments << QStringLiteral("-o") << output << s.current;
     PtoProject optimised;

@@ -622,7 +622,8 @@ void tst_StitchPipeline::render()
     const QDir folder = QFileInfo(options.project).absoluteDir();
     // What the stand-ins were given: one line per program run.
     const QString calls = folder.filePath(QStringLiteral("calls"));
-    for (const QString& tool : { QStringLiteral("enfuse"), QStringLiteral("hugin_hdrmerge") }) {
+    for (const QString& tool : { QStringLiteral("enfuse"), QStringLiteral("hugin_hdrmerge"),
+             QStringLiteral("autooptimiser") }) {
         QFile script(folder.filePath(QStringLiteral("tools/") + tool));
         QVERIFY(script.open(QIODevice::Append));
         script.write(QStringLiteral("echo \"%1 $*\" >> \"%2\"\n").arg(tool, calls).toUtf8());
@@ -665,6 +666,11 @@ void tst_StitchPipeline::render()
         QVERIFY2(line.contains(QStringLiteral("remapped0000.tif ")) == line.contains(
                      QStringLiteral("remapped0001.tif")),
             qPrintable(line));
+    // Photometric optimisation only for single pictures.
+    const QStringList optimiser = lines.filter(QStringLiteral("autooptimiser "));
+    QVERIFY(!optimiser.isEmpty());
+    for (const QString& line : optimiser)
+        QCOMPARE(line.contains(QStringLiteral(" -m ")), !stacked);
     for (const QString& line : lines.filter(QStringLiteral("hugin_hdrmerge ")))
         QVERIFY2(line.contains(QStringLiteral("linear")), qPrintable(line));
 }
