@@ -224,10 +224,9 @@ int StitchCommand::stitch(const Options& options, Console& console)
                .arg(result.panoramaSize.width())
                .arg(result.panoramaSize.height())
         << '\n'
-        << (result.preview.isEmpty()
-                   ? QString()
-                   : QStringLiteral("Preview:          %1\n")
-                         .arg(QDir::toNativeSeparators(result.preview)))
+        << (result.preview.isEmpty() ? QString()
+                                     : QStringLiteral("Preview:          %1\n")
+                                           .arg(QDir::toNativeSeparators(result.preview)))
         << "Stitched project: " << QDir::toNativeSeparators(result.stitchedProject) << '\n'
         << "Work folder:      " << QDir::toNativeSeparators(result.workFolder) << '\n';
     console.out.flush();

@@ -376,8 +376,8 @@ QVector<int> remappedImages(const Stitch& s)
     return all;
 }
 
-Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix,
-    const QStringList& mode, const QVector<int>& images)
+Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const QStringList& mode,
+    const QVector<int>& images)
 {
     removeFiles(s, prefix + QStringLiteral("*"));
     // Intermediate pictures are read once: compressing them costs time only.
@@ -418,7 +418,8 @@ Outcome remapLinear(Stitch& s)
     for (int i = 0; i < s.imageCount; ++i)
         all << i;
     return runNona(s, QStringLiteral("linear"), QStringLiteral("exr"),
-        { QStringLiteral("-r"), QStringLiteral("hdr"), QStringLiteral("-m"), QStringLiteral("EXR_m") },
+        { QStringLiteral("-r"), QStringLiteral("hdr"), QStringLiteral("-m"),
+            QStringLiteral("EXR_m") },
         all);
 }
 
@@ -502,8 +503,8 @@ QString partialPanorama(const QString& output)
 
 /// The pictures to blend: each stack's fused or merged picture where the
 /// stack was combined, else its one picture.
-QStringList blendInputs(const Stitch& s, const QString& inputPrefix,
-    const QString& combinedPrefix, const QString& suffix)
+QStringList blendInputs(const Stitch& s, const QString& inputPrefix, const QString& combinedPrefix,
+    const QString& suffix)
 {
     QStringList inputs;
     for (int stack = 0; stack < s.stackImages.size(); ++stack) {
@@ -546,8 +547,8 @@ Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 
-Outcome blendTo(Stitch& s, const QStringList& inputs, const QString& target,
-    const QStringList& arguments)
+Outcome blendTo(
+    Stitch& s, const QStringList& inputs, const QString& target, const QStringList& arguments)
 {
     // After a failed or stopped stitch no panorama is left, not even an older one.
     QFile::remove(target);

@@ -115,9 +115,11 @@ void tst_SampleStitch::importAndStitch()
     qInfo().noquote() << outText;
     // Every photograph reaches the panorama: all 30 are remapped and each
     // stack's three exposures fused.
-    QVERIFY2(outText.contains(QStringLiteral("remapping ... ")) && outText.contains(QStringLiteral(": 30 of 30 pictures")),
+    QVERIFY2(outText.contains(QStringLiteral("remapping ... "))
+            && outText.contains(QStringLiteral(": 30 of 30 pictures")),
         qPrintable(outText));
-    QVERIFY2(outText.contains(QStringLiteral("enfuse: fusing exposures ... done")) && outText.contains(QStringLiteral(": 10 stacks")),
+    QVERIFY2(outText.contains(QStringLiteral("enfuse: fusing exposures ... done"))
+            && outText.contains(QStringLiteral(": 10 stacks")),
         qPrintable(outText));
 
     const QDir work(dir.filePath(QStringLiteral("shoot.stitch")));

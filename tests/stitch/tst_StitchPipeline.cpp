@@ -31,16 +31,15 @@ const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CRO
 
 /// The same three positions with two exposures each; the second of a stack
 /// is hard-linked to the first.
-const char StackedProjectText[]
-    = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
-      "m i0\n"
-      "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
-      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 n\"P1b.jpg\"\n"
-      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
-      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 n\"P2b.jpg\"\n"
-      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
-      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 n\"P3b.jpg\"\n"
-      "v r2 p2 y2\nv r4 p4 y4\nv\n";
+const char StackedProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+                                  "m i0\n"
+                                  "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 n\"P1b.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 n\"P2b.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 n\"P3b.jpg\"\n"
+                                  "v r2 p2 y2\nv r4 p4 y4\nv\n";
 
 /// What the stitch is given besides the stand-ins.
 struct Shoot
@@ -584,12 +583,12 @@ void tst_StitchPipeline::render_data()
     QTest::newRow("stacks fused") << true << -1 << Output::Automatic << false << fused
                                   << "shoot.tif"
                                   << "";
-    QTest::newRow("output mode HDR") << true << 3 << Output::Automatic << false << hdr
-                                     << "shoot.exr"
-                                     << "shoot.jpg";
-    QTest::newRow("output mode HDR, fused asked") << true << 3 << Output::Fused << false << fused
-                                                  << "shoot.tif"
-                                                  << "";
+    QTest::newRow("output mode HDR")
+        << true << 3 << Output::Automatic << false << hdr << "shoot.exr"
+        << "shoot.jpg";
+    QTest::newRow("output mode HDR, fused asked")
+        << true << 3 << Output::Fused << false << fused << "shoot.tif"
+        << "";
     QTest::newRow("HDR asked") << true << 2 << Output::Hdr << false << hdr << "shoot.exr"
                                << "shoot.jpg";
     QTest::newRow("HDR of single pictures")
@@ -663,8 +662,8 @@ void tst_StitchPipeline::render()
     QCOMPARE(lines.filter(QStringLiteral("enfuse ")).size(), fusions);
     QCOMPARE(lines.filter(QStringLiteral("hugin_hdrmerge ")).size(), merges);
     for (const QString& line : lines.filter(QStringLiteral("enfuse ")))
-        QVERIFY2(line.contains(QStringLiteral("remapped0000.tif ")) == line.contains(
-                     QStringLiteral("remapped0001.tif")),
+        QVERIFY2(line.contains(QStringLiteral("remapped0000.tif "))
+                == line.contains(QStringLiteral("remapped0001.tif")),
             qPrintable(line));
     // Photometric optimisation only for single pictures.
     const QStringList optimiser = lines.filter(QStringLiteral("autooptimiser "));
@@ -691,21 +690,20 @@ void tst_StitchPipeline::renderFailure_data()
                                   << "echo 'bad layer'; exit 1" << 7 << "Fusing exposures"
                                   << "stack 0: enfuse exit code 1: "
                                   << " | bad layer";
-    QTest::newRow("enfuse writes nothing")
-        << false << "enfuse"
-        << "exit 0" << 7 << "Fusing exposures"
-        << "enfuse wrote no picture for stack 0" << QString();
+    QTest::newRow("enfuse writes nothing") << false << "enfuse"
+                                           << "exit 0" << 7 << "Fusing exposures"
+                                           << "enfuse wrote no picture for stack 0" << QString();
     QTest::newRow("nona writes no linear picture")
         << true << "nona"
         << "case \"$*\" in *EXR_m*) exit 0;; esac\n"
            "for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" \"$i\")\"; done"
         << 9 << "Remapping to linear light"
         << "nona wrote no remapped picture" << QString();
-    QTest::newRow("hugin_hdrmerge fails") << true << "hugin_hdrmerge"
-                                          << "echo 'cannot merge'; exit 2" << 10
-                                          << "Merging exposures"
-                                          << "stack 0: hugin_hdrmerge exit code 2: "
-                                          << " | cannot merge";
+    QTest::newRow("hugin_hdrmerge fails")
+        << true << "hugin_hdrmerge"
+        << "echo 'cannot merge'; exit 2" << 10 << "Merging exposures"
+        << "stack 0: hugin_hdrmerge exit code 2: "
+        << " | cannot merge";
     QTest::newRow("hugin_hdrmerge writes nothing")
         << true << "hugin_hdrmerge"
         << "exit 0" << 10 << "Merging exposures"
@@ -782,7 +780,8 @@ void tst_StitchPipeline::cleanWrongLink()
             note = event.note;
     }
     if (clean) {
-        QVERIFY2(note.startsWith(QStringLiteral("links removed: 1-2 (1 points, ")), qPrintable(note));
+        QVERIFY2(
+            note.startsWith(QStringLiteral("links removed: 1-2 (1 points, ")), qPrintable(note));
         for (const PtoProject::ControlPoint& point : final.controlPoints())
             QCOMPARE(point.second, 1);
     } else {

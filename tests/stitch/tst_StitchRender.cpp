@@ -9,9 +9,9 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
 
@@ -79,9 +79,9 @@ int largestWhiteSquare(const QImage& image)
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < w; ++x) {
             const QRgb p = image.pixel(x, y);
-            const bool white = qAlpha(p) > 0 && qRed(p) >= 250 && qGreen(p) >= 250 && qBlue(p) >= 250;
-            current[x + 1]
-                = white ? 1 + std::min({ previous[x], previous[x + 1], current[x] }) : 0;
+            const bool white
+                = qAlpha(p) > 0 && qRed(p) >= 250 && qGreen(p) >= 250 && qBlue(p) >= 250;
+            current[x + 1] = white ? 1 + std::min({ previous[x], previous[x + 1], current[x] }) : 0;
             best = std::max(best, current[x + 1]);
         }
         std::swap(previous, current);
@@ -103,8 +103,12 @@ QVector<float> readFloatTiff(const QString& path, QString* why)
         *why = QStringLiteral("not a little-endian TIFF");
         return {};
     }
-    const auto u16 = [&](qint64 at) { return at + 2 <= d.size() ? qFromLittleEndian<quint16>(d.constData() + at) : 0; };
-    const auto u32 = [&](qint64 at) { return at + 4 <= d.size() ? qFromLittleEndian<quint32>(d.constData() + at) : 0; };
+    const auto u16 = [&](qint64 at) {
+        return at + 2 <= d.size() ? qFromLittleEndian<quint16>(d.constData() + at) : 0;
+    };
+    const auto u32 = [&](qint64 at) {
+        return at + 4 <= d.size() ? qFromLittleEndian<quint32>(d.constData() + at) : 0;
+    };
     const quint32 ifd = u32(4);
     const int count = u16(ifd);
     QMap<int, QVector<quint32>> tags;
