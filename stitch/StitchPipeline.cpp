@@ -710,6 +710,13 @@ StitchPipeline::Result StitchPipeline::run()
         o.output = withSuffix(o.project, s.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"));
     o.output = QFileInfo(o.output).absoluteFilePath();
     s.fusedOutput = o.output;
+    const QString suffix = QFileInfo(o.output).suffix().toLower();
+    if (s.hdr && suffix != QLatin1String("exr") && suffix != QLatin1String("tif")
+        && suffix != QLatin1String("tiff"))
+        return finish(Result::Failed,
+            QStringLiteral("an HDR panorama is an OpenEXR (.exr) or float TIFF (.tif) file, "
+                           "not %1")
+                .arg(o.output));
     if (s.hdr) {
         s.fusedOutput = withSuffix(o.output, QStringLiteral(".jpg"));
         result.preview = s.fusedOutput;

@@ -202,6 +202,7 @@ private slots:
     void render();
     void renderFailure_data();
     void renderFailure();
+    void hdrNeedsAFloatFormat();
     void cleanWrongLink_data();
     void cleanWrongLink();
 
@@ -746,6 +747,26 @@ void tst_StitchPipeline::renderFailure()
     QCOMPARE(worker.events().last().phase, StepEvent::Failed);
     QCOMPARE(worker.events().last().note, result.error);
     QVERIFY(!QFileInfo::exists(result.panorama));
+}
+
+void tst_StitchPipeline::hdrNeedsAFloatFormat()
+{
+    Shoot shoot;
+    shoot.stacked = true;
+    shoot.outputMode = 3;
+    StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.output = QFileInfo(options.project).absoluteDir().filePath(QStringLiteral("hdr.jpg"));
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 0);
+    QCOMPARE(result.error,
+        QStringLiteral("an HDR panorama is an OpenEXR (.exr) or float TIFF (.tif) file, not %1")
+            .arg(options.output));
+    QVERIFY(worker.events().isEmpty());
 }
 
 void tst_StitchPipeline::cleanWrongLink_data()
