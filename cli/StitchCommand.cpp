@@ -96,18 +96,26 @@ QString StitchCommand::help()
         "finds control points (guided by the recorded positions), the points between\n"
         "stacks that no authorised link joins are removed, cpclean removes wrong\n"
         "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
-        "crop, nona remaps the first picture of every stack and enblend blends them.\n"
+        "crop, nona remaps the pictures, enfuse fuses the exposures of every stack and\n"
+        "enblend blends the stacks. With --hdr (the default when the description's\n"
+        "output mode is 32-bit HDR) each stack is merged to linear floating point\n"
+        "(hugin_hdrmerge) and blended into an OpenEXR or 32-bit float TIFF panorama,\n"
+        "with the fused panorama beside it as a JPEG preview.\n"
         "The description's options are honoured: without \"Auto detection\" no points\n"
         "are looked for and the recorded positions are used as they are; \"Skip\n"
         "optimization\" keeps the positions; without \"Use recorded location\" cpfind\n"
         "tries every pair (--multirow); linking all stack levels, or control points\n"
-        "inside stacks, looks for points in every picture.\n"
+        "inside stacks, looks for points in every picture and lets the optimiser place\n"
+        "each picture of a stack; \"Clean wrong link\" removes the points of a link\n"
+        "that disagree with the optimised positions and places the pictures again.\n"
         "\n"
         "Options:\n"
         "  --description <file.json> the panorama description (default: beside the\n"
         "                            project, same name)\n"
-        "  -o, --output <file>       the panorama, .tif or .jpg (default: <name>.tif\n"
+        "  -o, --output <file>       the panorama, .tif or .jpg; with --hdr .exr or .tif\n"
+        "                            (default: <name>.tif, with --hdr <name>.exr,\n"
         "                            beside the project)\n"
+        "  --hdr                     an HDR panorama and a fused JPEG preview\n"
         "  --work-folder <folder>    intermediate projects, pictures and the log\n"
         "                            (default: <name>.stitch beside the project)\n"
         "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
@@ -133,7 +141,8 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
     const QCommandLineOption tools(QStringLiteral("tools"), QString(), QStringLiteral("folder"));
     const QCommandLineOption timeout(
         QStringLiteral("timeout"), QString(), QStringLiteral("seconds"));
-    parser.addOptions({ help, description, output, work, tools, timeout });
+    const QCommandLineOption hdr(QStringLiteral("hdr"), QString());
+    parser.addOptions({ help, description, output, work, tools, timeout, hdr });
     const auto usage = [&console](const QString& message) {
         console.err << "panohead stitch: " << message << " (see panohead stitch --help)\n";
         console.err.flush();
@@ -162,10 +171,15 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
         if (!ok || options.timeoutSeconds < 1)
             return usage(QStringLiteral("--timeout is a number of seconds"));
     }
+    if (parser.isSet(hdr))
+        options.mode = StitchPipeline::Output::Hdr;
     if (!options.output.isEmpty()) {
         const QString suffix = QFileInfo(options.output).suffix().toLower();
-        if (suffix != QLatin1String("tif") && suffix != QLatin1String("tiff")
-            && suffix != QLatin1String("jpg") && suffix != QLatin1String("jpeg"))
+        const bool tiff = suffix == QLatin1String("tif") || suffix == QLatin1String("tiff");
+        if (parser.isSet(hdr) && !tiff && suffix != QLatin1String("exr"))
+            return usage(QStringLiteral("the HDR panorama is a .exr or .tif file"));
+        if (!parser.isSet(hdr) && !tiff && suffix != QLatin1String("jpg")
+            && suffix != QLatin1String("jpeg"))
             return usage(QStringLiteral("the panorama is a .tif or .jpg file"));
     }
     return stitch(options, console);
@@ -210,6 +224,9 @@ int StitchCommand::stitch(const Options& options, Console& console)
                .arg(result.panoramaSize.width())
                .arg(result.panoramaSize.height())
         << '\n'
+        << (result.preview.isEmpty() ? QString()
+                                     : QStringLiteral("Preview:          %1\n")
+                                           .arg(QDir::toNativeSeparators(result.preview)))
         << "Stitched project: " << QDir::toNativeSeparators(result.stitchedProject) << '\n'
         << "Work folder:      " << QDir::toNativeSeparators(result.workFolder) << '\n';
     console.out.flush();

@@ -9,7 +9,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
   libexiv2-dev libbenchmark-dev
-  hugin-tools enblend
+  hugin-tools enblend enfuse
   clang libclang-rt-14-dev
   libimage-exiftool-perl
   xvfb xauth

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QImageReader>
 
+#include <climits>
+
 namespace {
 
 quint32 value(const QByteArray& data, qint64 offset, int bytes, bool little)
@@ -15,6 +17,39 @@ quint32 value(const QByteArray& data, qint64 offset, int bytes, bool little)
         v = (v << 8) | b;
     }
     return v;
+}
+
+/// Width and height of an OpenEXR file's data window, from its header: after
+/// the magic number and version, attributes as name, type, size and value,
+/// ending with an empty name.
+QSize exrSize(QFile& file)
+{
+    const QByteArray head = file.read(64 * 1024);
+    if (!head.startsWith(QByteArray::fromHex("762f3101")))
+        return QSize();
+    int at = 8;
+    while (at < head.size()) {
+        const int nameEnd = head.indexOf('\0', at);
+        if (nameEnd < 0 || nameEnd == at)
+            return QSize();
+        const QByteArray name = head.mid(at, nameEnd - at);
+        const int typeEnd = head.indexOf('\0', nameEnd + 1);
+        if (typeEnd < 0)
+            return QSize();
+        const qint64 size = value(head, typeEnd + 1, 4, true);
+        const qint64 start = typeEnd + 5;
+        if (name == "dataWindow" && size == 16) {
+            const auto coordinate
+                = [&](int k) { return qint32(value(head, start + 4 * k, 4, true)); };
+            const qint64 width = qint64(coordinate(2)) - coordinate(0) + 1;
+            const qint64 height = qint64(coordinate(3)) - coordinate(1) + 1;
+            if (width <= 0 || height <= 0 || width > INT_MAX || height > INT_MAX)
+                return QSize();
+            return QSize(int(width), int(height));
+        }
+        at = int(start + size);
+    }
+    return QSize();
 }
 
 /// Width and height from a classic TIFF file's first directory.
@@ -57,6 +92,10 @@ QSize ImageSize::read(const QString& path)
     const QSize tiff = tiffSize(file);
     if (tiff.isValid())
         return tiff;
+    file.seek(0);
+    const QSize exr = exrSize(file);
+    if (exr.isValid())
+        return exr;
     file.close();
     QImageReader reader(path);
     return reader.size();

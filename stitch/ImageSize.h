@@ -1,5 +1,6 @@
-// ImageSize: the pixel size of a finished panorama file: TIFF (read from its
-// header, which Qt cannot read without an extra plug-in) or any format Qt reads.
+// ImageSize: the pixel size of a finished panorama file: TIFF or OpenEXR (read
+// from their headers, which Qt cannot read without an extra plug-in) or any
+// format Qt reads.
 #pragma once
 
 #include <QSize>

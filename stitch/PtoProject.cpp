@@ -334,6 +334,98 @@ QRect PtoProject::crop() const
     return QRect();
 }
 
+bool PtoProject::direction(int image, double x, double y, double out[3]) const
+{
+    bool ok[7] = {};
+    const double width = number(image, QStringLiteral("w"), &ok[0]);
+    const double height = number(image, QStringLiteral("h"), &ok[1]);
+    const double fov = number(image, QStringLiteral("v"), &ok[2]);
+    const double projection = number(image, QStringLiteral("f"), &ok[3]);
+    const double yaw = number(image, QStringLiteral("y"), &ok[4]);
+    const double pitch = number(image, QStringLiteral("p"), &ok[5]);
+    const double roll = number(image, QStringLiteral("r"), &ok[6]);
+    for (bool b : ok) {
+        if (!b)
+            return false;
+    }
+    const double degree = M_PI / 180.0;
+    if (width <= 0 || height <= 0 || fov <= 0)
+        return false;
+    // Camera frame: x to the right, y up, z ahead.
+    const double cx = x - width / 2.0;
+    const double cy = -(y - height / 2.0);
+    double v[3];
+    if (projection == 0) {
+        if (fov >= 180.0)
+            return false;
+        const double focal = width / 2.0 / std::tan(fov * degree / 2.0);
+        v[0] = cx;
+        v[1] = cy;
+        v[2] = focal;
+    } else if (projection == 2 || projection == 3) {
+        // Equidistant: the angle from the axis grows with the radius.
+        const double focal = width / 2.0 / (fov * degree / 2.0);
+        const double radius = std::hypot(cx, cy);
+        const double theta = radius / focal;
+        const double s = radius > 0 ? std::sin(theta) / radius : 0.0;
+        v[0] = cx * s;
+        v[1] = cy * s;
+        v[2] = std::cos(theta);
+    } else {
+        return false;
+    }
+    const double length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
+    for (double& c : v)
+        c /= length;
+    // Roll turns the picture about the axis, pitch raises the axis, yaw
+    // turns it to the right.
+    const double r = roll * degree, p = pitch * degree, w = yaw * degree;
+    const double x1 = v[0] * std::cos(r) - v[1] * std::sin(r);
+    const double y1 = v[0] * std::sin(r) + v[1] * std::cos(r);
+    const double z1 = v[2];
+    const double y2 = y1 * std::cos(p) + z1 * std::sin(p);
+    const double z2 = -y1 * std::sin(p) + z1 * std::cos(p);
+    out[0] = x1 * std::cos(w) + z2 * std::sin(w);
+    out[1] = y2;
+    out[2] = -x1 * std::sin(w) + z2 * std::cos(w);
+    return true;
+}
+
+double PtoProject::pointError(const ControlPoint& point, bool* ok) const
+{
+    *ok = false;
+    bool parsed = false;
+    const QStringList parts = tokens(point.line, &parsed);
+    double coordinates[4] = { 0, 0, 0, 0 };
+    bool seen[4] = {};
+    const QString names[4]
+        = { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("X"), QStringLiteral("Y") };
+    for (const QString& t : parts.mid(1)) {
+        QString name, rest;
+        splitToken(t, &name, &rest);
+        for (int k = 0; k < 4; ++k) {
+            if (name == names[k] && !seen[k]) {
+                coordinates[k] = rest.toDouble(&seen[k]);
+                break;
+            }
+        }
+    }
+    for (bool b : seen) {
+        if (!b)
+            return 0.0;
+    }
+    double a[3], b[3];
+    if (!direction(point.first, coordinates[0], coordinates[1], a)
+        || !direction(point.second, coordinates[2], coordinates[3], b))
+        return 0.0;
+    const double cross[3]
+        = { a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0] };
+    const double sine = std::sqrt(cross[0] * cross[0] + cross[1] * cross[1] + cross[2] * cross[2]);
+    const double cosine = a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+    *ok = true;
+    return std::atan2(sine, cosine) * 180.0 / M_PI;
+}
+
 PtoProject::ControlPoint PtoProject::renumbered(
     const ControlPoint& point, const QVector<int>& mapping)
 {

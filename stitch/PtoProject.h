@@ -60,6 +60,13 @@ public:
     /// points, masks and optimiser variables of dropped images are dropped.
     PtoProject subset(const QVector<int>& images) const;
 
+    /// The angle in degrees between the directions in which the control
+    /// point's two ends lie, seen through the images' positions (y, p, r),
+    /// fields of view and projections: near 0 when the positions agree with
+    /// the point. False in *ok when an image's projection is neither
+    /// rectilinear nor an equidistant fisheye, or a value is missing.
+    double pointError(const ControlPoint& point, bool* ok) const;
+
     /// A control point of this project with its images renumbered: image i
     /// becomes mapping[i].
     static ControlPoint renumbered(const ControlPoint& point, const QVector<int>& mapping);
@@ -83,6 +90,9 @@ private:
     static bool parseImage(const QString& line, Image* image, QString* error);
     static QString imageLine(const Image& image);
     const Variable* variable(int image, const QString& name) const;
+    /// The unit vector of image pixel (x, y) in the panorama's frame: z
+    /// ahead at yaw 0 and pitch 0, x to the right, y up.
+    bool direction(int image, double x, double y, double out[3]) const;
 
     QStringList m_lines;
     QVector<Image> m_images;

@@ -10,7 +10,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QVector>
+
+#include <algorithm>
 
 // cancel() stores into the flag from signal handlers too.
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
@@ -37,6 +40,13 @@ struct Stitch
     QVector<int> stackOf;
     QVector<bool> isReference;
     QVector<int> references;
+    /// Per stack its images in the project, the first one first.
+    QVector<QVector<int>> stackImages;
+    /// Some stack holds more than one image: its exposures are fused.
+    bool stacked = false;
+    bool hdr = false;
+    /// Where the fused panorama goes: the panorama, or for HDR the preview.
+    QString fusedOutput;
     QDir work;
     QString log;
     /// The project the next step reads.
@@ -201,16 +211,21 @@ Outcome cleanPoints(Stitch& s)
     return done(QStringLiteral("%1 points kept, %2 removed").arg(after).arg(before - after));
 }
 
-Outcome optimise(Stitch& s)
+Outcome optimiseInto(Stitch& s, const QString& output)
 {
     const bool points = !s.currentProject.controlPoints().isEmpty();
     QStringList arguments;
     if (points && !s.panorama.m_skipOptimization)
-        arguments << QStringLiteral("-a") << QStringLiteral("-m") << QStringLiteral("-l");
-    else if (points)
-        arguments << QStringLiteral("-m") << QStringLiteral("-l");
+        arguments << QStringLiteral("-a");
+    // Photometric optimisation brings single pictures to one exposure. Fused
+    // stacks keep every exposure as shot and HDR takes the recorded exposure
+    // values, so for stacks it would cost time (a third of the optimiser's
+    // on a shoot of 3 exposures) and change nothing in the panorama.
+    if (points && !s.stacked)
+        arguments << QStringLiteral("-m");
+    if (points)
+        arguments << QStringLiteral("-l");
     arguments << QStringLiteral("-s");
-    const QString output = s.workFile(QStringLiteral("04-optimised.pto"));
     arguments << QStringLiteral("-o") << output << s.current;
     PtoProject optimised;
     Outcome outcome = runProjectTool(
@@ -232,6 +247,77 @@ Outcome optimise(Stitch& s)
     s.current = output;
     s.currentProject = optimised;
     return done(points ? QString() : QStringLiteral("no control points: recorded positions"));
+}
+
+Outcome optimise(Stitch& s)
+{
+    return optimiseInto(s, s.workFile(QStringLiteral("04-optimised.pto")));
+}
+
+/// "Clean wrong link": a link whose points lie far from where the optimised
+/// positions put them joins two stacks that do not really meet; its points
+/// are removed and the pictures placed again without them.
+Outcome removeWrongLinks(Stitch& s)
+{
+    const QVector<PtoProject::ControlPoint> points = s.currentProject.controlPoints();
+    QMap<QPair<int, int>, QVector<double>> errorsOfLink;
+    QVector<double> all;
+    for (const PtoProject::ControlPoint& point : points) {
+        bool ok = false;
+        const double error = s.currentProject.pointError(point, &ok);
+        if (!ok)
+            continue;
+        all << error;
+        const int a = s.stackOf.value(point.first), b = s.stackOf.value(point.second);
+        if (a != b)
+            errorsOfLink[qMakePair(qMin(a, b), qMax(a, b))] << error;
+    }
+    if (all.isEmpty())
+        return done(QStringLiteral("no point to check"));
+    const auto median = [](QVector<double> values) {
+        std::sort(values.begin(), values.end());
+        return values[values.size() / 2];
+    };
+    // A link is wrong when its typical point is off by more than 5 pixels
+    // and by more than 3 times the typical point of the whole panorama.
+    bool ok = false;
+    const double width = s.currentProject.number(0, QStringLiteral("w"), &ok);
+    const double fov = s.currentProject.number(0, QStringLiteral("v"), &ok);
+    const double pixel = width > 0 && fov > 0 ? fov / width : 0.1;
+    const double limit = qMax(5.0 * pixel, 3.0 * median(all));
+    QSet<QPair<int, int>> wrong;
+    QStringList reported;
+    for (auto it = errorsOfLink.constBegin(); it != errorsOfLink.constEnd(); ++it) {
+        const double typical = median(it.value());
+        if (typical > limit) {
+            wrong.insert(it.key());
+            reported << QStringLiteral("%1-%2 (%3 points, %4°)")
+                            .arg(it.key().first)
+                            .arg(it.key().second)
+                            .arg(it.value().size())
+                            .arg(typical, 0, 'f', 2);
+        }
+    }
+    if (wrong.isEmpty())
+        return done(QStringLiteral("%1 links agree").arg(errorsOfLink.size()));
+    QVector<PtoProject::ControlPoint> kept;
+    for (const PtoProject::ControlPoint& point : points) {
+        const int a = s.stackOf.value(point.first), b = s.stackOf.value(point.second);
+        if (!wrong.contains(qMakePair(qMin(a, b), qMax(a, b))))
+            kept << point;
+    }
+    PtoProject project = s.currentProject;
+    project.setControlPoints(kept);
+    const QString checked = s.workFile(QStringLiteral("04-links-checked.pto"));
+    QString error;
+    if (!project.write(checked, &error))
+        return failure(error);
+    s.current = checked;
+    s.currentProject = project;
+    const Outcome outcome = optimiseInto(s, s.workFile(QStringLiteral("04-optimised-again.pto")));
+    if (!outcome.error.isEmpty())
+        return outcome;
+    return done(QStringLiteral("links removed: %1").arg(reported.join(QStringLiteral(", "))));
 }
 
 Outcome chooseCanvas(Stitch& s)
@@ -258,42 +344,150 @@ Outcome chooseCanvas(Stitch& s)
                     .arg(final.crop().height()));
 }
 
-QString remappedFile(const Stitch& s, int image)
+/// work/<prefix><image, 4 digits>.<suffix>: how nona names a remapped picture
+/// and how the stacks' fused and merged pictures are named after it.
+QString numberedFile(const Stitch& s, const QString& prefix, int number, const QString& suffix)
 {
-    return s.workFile(QStringLiteral("remapped%1.tif").arg(image, 4, 10, QLatin1Char('0')));
+    return s.workFile(
+        QStringLiteral("%1%2.%3").arg(prefix).arg(number, 4, 10, QLatin1Char('0')).arg(suffix));
 }
 
-void removeRemapped(const Stitch& s)
+void removeFiles(const Stitch& s, const QString& pattern)
 {
-    for (const QFileInfo& old : s.work.entryInfoList({ QStringLiteral("remapped*.tif") }))
+    for (const QFileInfo& old : s.work.entryInfoList({ pattern }))
         QFile::remove(old.absoluteFilePath());
 }
 
-Outcome remap(Stitch& s)
+bool written(const QString& path)
 {
-    removeRemapped(s);
-    // The first image of every stack, corrected to the panorama's exposure.
-    QStringList arguments = { QStringLiteral("-m"), QStringLiteral("TIFF_m"), QStringLiteral("-o"),
-        s.workFile(QStringLiteral("remapped")) };
-    for (int image : s.references)
+    const QFileInfo file(path);
+    return file.isFile() && file.size() > 0;
+}
+
+/// The images nona remaps: every one when stacks are fused, else the first
+/// of every stack.
+QVector<int> remappedImages(const Stitch& s)
+{
+    if (!s.stacked)
+        return s.references;
+    QVector<int> all;
+    for (int i = 0; i < s.imageCount; ++i)
+        all << i;
+    return all;
+}
+
+Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const QStringList& mode,
+    const QVector<int>& images)
+{
+    removeFiles(s, prefix + QStringLiteral("*"));
+    // Intermediate pictures are read once: compressing them costs time only.
+    QStringList arguments = mode;
+    arguments << QStringLiteral("-z") << QStringLiteral("NONE") << QStringLiteral("-o")
+              << s.workFile(prefix);
+    for (int image : images)
         arguments << QStringLiteral("-i") << QString::number(image);
     arguments << s.current;
     const ToolRunner::Result result = s.run(QStringLiteral("nona"), arguments);
     if (!result.succeeded()) {
         if (result.stopped || result.timedOut)
-            removeRemapped(s);
+            removeFiles(s, prefix + QStringLiteral("*"));
         return toolFailure(QStringLiteral("nona"), result);
     }
-    int written = 0;
-    for (int image : s.references) {
-        const QFileInfo file(remappedFile(s, image));
-        if (file.isFile() && file.size() > 0)
-            ++written;
-    }
-    if (written == 0)
+    int count = 0;
+    for (int image : images)
+        count += written(numberedFile(s, prefix, image, suffix)) ? 1 : 0;
+    if (count == 0)
         return failure(QStringLiteral("nona wrote no remapped picture"));
     // A picture that lies wholly outside the crop is not written; that is no error.
-    return done(QStringLiteral("%1 of %2 pictures").arg(written).arg(s.references.size()));
+    return done(QStringLiteral("%1 of %2 pictures").arg(count).arg(images.size()));
+}
+
+Outcome remap(Stitch& s)
+{
+    // Stacks keep every exposure as it was shot, for enfuse to choose from;
+    // single pictures are corrected to the panorama's exposure.
+    QStringList mode = { QStringLiteral("-m"), QStringLiteral("TIFF_m") };
+    if (s.stacked)
+        mode << QStringLiteral("--ignore-exposure");
+    return runNona(s, QStringLiteral("remapped"), QStringLiteral("tif"), mode, remappedImages(s));
+}
+
+Outcome remapLinear(Stitch& s)
+{
+    QVector<int> all;
+    for (int i = 0; i < s.imageCount; ++i)
+        all << i;
+    return runNona(s, QStringLiteral("linear"), QStringLiteral("exr"),
+        { QStringLiteral("-r"), QStringLiteral("hdr"), QStringLiteral("-m"),
+            QStringLiteral("EXR_m") },
+        all);
+}
+
+/// The written pictures of a stack's images, work/<prefix>NNNN.<suffix>.
+QStringList stackFiles(
+    const Stitch& s, const QVector<int>& images, const QString& prefix, const QString& suffix)
+{
+    QStringList files;
+    for (int image : images) {
+        const QString file = numberedFile(s, prefix, image, suffix);
+        if (written(file))
+            files << file;
+    }
+    return files;
+}
+
+/// Runs tool once per stack of more than one picture, writing
+/// work/<outputPrefix><stack>.<suffix> from the stack's pictures; a stack of
+/// one picture is passed on as it is. The pictures for the blender, in the
+/// stacks' order, go to *results.
+Outcome combineStacks(Stitch& s, const QString& tool, const QStringList& options,
+    const QString& inputPrefix, const QString& outputPrefix, const QString& suffix,
+    QStringList* results)
+{
+    removeFiles(s, outputPrefix + QStringLiteral("*"));
+    results->clear();
+    int combined = 0;
+    for (int stack = 0; stack < s.stackImages.size(); ++stack) {
+        const QStringList inputs = stackFiles(s, s.stackImages[stack], inputPrefix, suffix);
+        if (inputs.isEmpty())
+            continue;
+        if (inputs.size() == 1) {
+            *results << inputs.first();
+            continue;
+        }
+        const QString output = numberedFile(s, outputPrefix, stack, suffix);
+        const ToolRunner::Result result
+            = s.run(tool, options + QStringList { QStringLiteral("-o"), output } + inputs);
+        if (!result.succeeded()) {
+            QFile::remove(output);
+            Outcome outcome = toolFailure(tool, result);
+            outcome.error = QStringLiteral("stack %1: %2").arg(stack).arg(outcome.error);
+            return outcome;
+        }
+        const QSize size = ImageSize::read(output);
+        if (!written(output) || (suffix == QLatin1String("tif") && !size.isValid()))
+            return failure(QStringLiteral("%1 wrote no picture for stack %2").arg(tool).arg(stack));
+        *results << output;
+        ++combined;
+    }
+    if (results->isEmpty())
+        return failure(QStringLiteral("no stack has a remapped picture"));
+    return done(QStringLiteral("%1 stacks").arg(combined));
+}
+
+Outcome fuse(Stitch& s)
+{
+    QStringList fused;
+    return combineStacks(s, QStringLiteral("enfuse"), { QStringLiteral("--compression=NONE") },
+        QStringLiteral("remapped"), QStringLiteral("fused"), QStringLiteral("tif"), &fused);
+}
+
+Outcome mergeStacks(Stitch& s)
+{
+    QStringList merged;
+    return combineStacks(s, QStringLiteral("hugin_hdrmerge"),
+        { QStringLiteral("-m"), QStringLiteral("avg_slow") }, QStringLiteral("linear"),
+        QStringLiteral("merged"), QStringLiteral("exr"), &merged);
 }
 
 /// Where enblend writes before the panorama is checked: beside it, so that
@@ -307,16 +501,33 @@ QString partialPanorama(const QString& output)
         info.completeBaseName() + QStringLiteral(".partial") + suffix);
 }
 
-Outcome blendInto(Stitch& s, const QString& partial)
+/// The pictures to blend: each stack's fused or merged picture where the
+/// stack was combined, else its one picture.
+QStringList blendInputs(const Stitch& s, const QString& inputPrefix, const QString& combinedPrefix,
+    const QString& suffix)
 {
-    QStringList arguments = { QStringLiteral("-o"), partial };
-    const QString suffix = QFileInfo(s.options.output).suffix().toLower();
+    QStringList inputs;
+    for (int stack = 0; stack < s.stackImages.size(); ++stack) {
+        const QString combined = numberedFile(s, combinedPrefix, stack, suffix);
+        if (written(combined)) {
+            inputs << combined;
+            continue;
+        }
+        const QStringList files = stackFiles(s, s.stackImages[stack], inputPrefix, suffix);
+        if (!files.isEmpty())
+            inputs << files.first();
+    }
+    return inputs;
+}
+
+Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
+    const QString& partial, QStringList arguments)
+{
+    arguments << QStringLiteral("-o") << partial;
+    const QString suffix = QFileInfo(target).suffix().toLower();
     if (suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg"))
         arguments << QStringLiteral("--compression=90");
-    for (int image : s.references) {
-        if (QFileInfo(remappedFile(s, image)).isFile())
-            arguments << remappedFile(s, image);
-    }
+    arguments << inputs;
     const ToolRunner::Result result = s.run(QStringLiteral("enblend"), arguments);
     if (!result.succeeded())
         return toolFailure(QStringLiteral("enblend"), result);
@@ -331,21 +542,42 @@ Outcome blendInto(Stitch& s, const QString& partial)
                            .arg(size.height())
                            .arg(expected.width())
                            .arg(expected.height()));
-    if (!QFile::rename(partial, s.options.output))
-        return failure(QStringLiteral("cannot rename %1 to %2").arg(partial, s.options.output));
+    if (!QFile::rename(partial, target))
+        return failure(QStringLiteral("cannot rename %1 to %2").arg(partial, target));
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+}
+
+Outcome blendTo(
+    Stitch& s, const QStringList& inputs, const QString& target, const QStringList& arguments)
+{
+    // After a failed or stopped stitch no panorama is left, not even an older one.
+    QFile::remove(target);
+    const QString partial = partialPanorama(target);
+    QFile::remove(partial);
+    const Outcome outcome = blendInto(s, inputs, target, partial, arguments);
+    if (!outcome.error.isEmpty())
+        QFile::remove(partial);
+    return outcome;
 }
 
 Outcome blend(Stitch& s)
 {
-    // After a failed or stopped stitch no panorama is left, not even an older one.
-    QFile::remove(s.options.output);
-    const QString partial = partialPanorama(s.options.output);
-    QFile::remove(partial);
-    const Outcome outcome = blendInto(s, partial);
-    if (!outcome.error.isEmpty())
-        QFile::remove(partial);
-    return outcome;
+    if (s.hdr)
+        QFile::remove(s.options.output);
+    return blendTo(s,
+        blendInputs(s, QStringLiteral("remapped"), QStringLiteral("fused"), QStringLiteral("tif")),
+        s.fusedOutput, {});
+}
+
+Outcome blendHdr(Stitch& s)
+{
+    QStringList arguments;
+    const QString suffix = QFileInfo(s.options.output).suffix().toLower();
+    if (suffix == QLatin1String("tif") || suffix == QLatin1String("tiff"))
+        arguments << QStringLiteral("--compression=DEFLATE");
+    return blendTo(s,
+        blendInputs(s, QStringLiteral("linear"), QStringLiteral("merged"), QStringLiteral("exr")),
+        s.options.output, arguments);
 }
 
 struct StepDefinition
@@ -353,23 +585,58 @@ struct StepDefinition
     const char* tool;
     const char* name;
     Outcome (*run)(Stitch&);
-    /// Runs only when control points are looked for ("Auto detection").
-    bool detection;
+    /// Whether the stitch runs the step.
+    bool (*when)(const Stitch&);
 };
+
+bool always(const Stitch&)
+{
+    return true;
+}
+
+bool detecting(const Stitch& s)
+{
+    return s.panorama.m_autoDetection;
+}
+
+bool checkingLinks(const Stitch& s)
+{
+    return s.panorama.m_autoDetection && s.panorama.m_cleanWrongLinks;
+}
+
+bool fusing(const Stitch& s)
+{
+    return s.stacked;
+}
+
+bool merging(const Stitch& s)
+{
+    return s.hdr;
+}
 
 const StepDefinition Steps[] = {
     { "cpfind", QT_TRANSLATE_NOOP("StitchPipeline", "Finding control points"), findControlPoints,
-        true },
+        detecting },
     { "links",
         QT_TRANSLATE_NOOP("StitchPipeline", "Removing points between positions that do not meet"),
-        removeUnlinkedPoints, true },
-    { "cpclean", QT_TRANSLATE_NOOP("StitchPipeline", "Removing wrong points"), cleanPoints, true },
+        removeUnlinkedPoints, detecting },
+    { "cpclean", QT_TRANSLATE_NOOP("StitchPipeline", "Removing wrong points"), cleanPoints,
+        detecting },
     { "autooptimiser", QT_TRANSLATE_NOOP("StitchPipeline", "Placing the pictures"), optimise,
-        false },
+        always },
+    { "linkcheck", QT_TRANSLATE_NOOP("StitchPipeline", "Removing links that disagree"),
+        removeWrongLinks, checkingLinks },
     { "pano_modify", QT_TRANSLATE_NOOP("StitchPipeline", "Choosing canvas and crop"), chooseCanvas,
-        false },
-    { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping"), remap, false },
-    { "enblend", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, false },
+        always },
+    { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping"), remap, always },
+    { "enfuse", QT_TRANSLATE_NOOP("StitchPipeline", "Fusing exposures"), fuse, fusing },
+    { "enblend", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, always },
+    { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping to linear light"), remapLinear,
+        merging },
+    { "hugin_hdrmerge", QT_TRANSLATE_NOOP("StitchPipeline", "Merging exposures"), mergeStacks,
+        merging },
+    { "enblend", QT_TRANSLATE_NOOP("StitchPipeline", "Blending the HDR panorama"), blendHdr,
+        merging },
 };
 
 QString withSuffix(const QString& project, const QString& suffix)
@@ -401,8 +668,10 @@ QStringList StitchPipeline::programs()
 {
     QStringList names;
     for (const StepDefinition& step : Steps) {
-        if (QLatin1String(step.tool) != QLatin1String("links"))
-            names << QLatin1String(step.tool);
+        const QString tool = QLatin1String(step.tool);
+        if (tool != QLatin1String("links") && tool != QLatin1String("linkcheck")
+            && !names.contains(tool))
+            names << tool;
     }
     return names;
 }
@@ -430,20 +699,34 @@ StitchPipeline::Result StitchPipeline::run()
     o.project = projectInfo.absoluteFilePath();
     if (o.description.isEmpty())
         o.description = withSuffix(o.project, QStringLiteral(".json"));
+    QString error;
+    if (!s.currentProject.read(o.project, &error))
+        return finish(Result::Failed, error);
+    if (!DescriptionJson::read(o.description, &s.panorama, &error))
+        return finish(Result::Failed, error);
+    s.hdr = o.mode == Output::Hdr || (o.mode == Output::Automatic && s.panorama.m_outputMode == 3);
+    result.hdr = s.hdr;
     if (o.output.isEmpty())
-        o.output = withSuffix(o.project, QStringLiteral(".tif"));
+        o.output = withSuffix(o.project, s.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"));
     o.output = QFileInfo(o.output).absoluteFilePath();
+    s.fusedOutput = o.output;
+    const QString suffix = QFileInfo(o.output).suffix().toLower();
+    if (s.hdr && suffix != QLatin1String("exr") && suffix != QLatin1String("tif")
+        && suffix != QLatin1String("tiff"))
+        return finish(Result::Failed,
+            QStringLiteral("an HDR panorama is an OpenEXR (.exr) or float TIFF (.tif) file, "
+                           "not %1")
+                .arg(o.output));
+    if (s.hdr) {
+        s.fusedOutput = withSuffix(o.output, QStringLiteral(".jpg"));
+        result.preview = s.fusedOutput;
+    }
     if (o.workFolder.isEmpty())
         o.workFolder = withSuffix(o.project, QStringLiteral(".stitch"));
     o.workFolder = QFileInfo(o.workFolder).absoluteFilePath();
     result.panorama = o.output;
     result.workFolder = o.workFolder;
 
-    QString error;
-    if (!s.currentProject.read(o.project, &error))
-        return finish(Result::Failed, error);
-    if (!DescriptionJson::read(o.description, &s.panorama, &error))
-        return finish(Result::Failed, error);
     if (!ControlPointFilter::matchStacks(s.currentProject, projectInfo.absolutePath(), s.panorama,
             &s.stackOf, &s.isReference, &error))
         return finish(Result::Failed, error);
@@ -451,8 +734,26 @@ StitchPipeline::Result StitchPipeline::run()
     for (int i = 0; i < s.imageCount; ++i) {
         if (s.isReference[i])
             s.references << i;
+        const int stack = s.stackOf[i];
+        if (stack >= s.stackImages.size())
+            s.stackImages.resize(stack + 1);
+        if (s.isReference[i])
+            s.stackImages[stack].prepend(i);
+        else
+            s.stackImages[stack] << i;
+        s.stacked = s.stacked || s.stackImages[stack].size() > 1;
     }
-    for (const QString& tool : programs()) {
+    QVector<const StepDefinition*> steps;
+    QStringList needed;
+    for (const StepDefinition& step : Steps) {
+        if (!step.when(s))
+            continue;
+        steps << &step;
+        const QString tool = QLatin1String(step.tool);
+        if (programs().contains(tool) && !needed.contains(tool))
+            needed << tool;
+    }
+    for (const QString& tool : needed) {
         if (s.tools.program(tool).isEmpty())
             return finish(Result::Failed,
                 QStringLiteral("Hugin's program %1 is not found in %2")
@@ -472,11 +773,6 @@ StitchPipeline::Result StitchPipeline::run()
         return finish(Result::Failed, error);
     result.stitchedProject = s.current;
 
-    QVector<const StepDefinition*> steps;
-    for (const StepDefinition& step : Steps) {
-        if (!step.detection || s.panorama.m_autoDetection)
-            steps << &step;
-    }
     result.stepCount = steps.size();
     for (int i = 0; i < steps.size(); ++i) {
         const StepDefinition& step = *steps[i];

@@ -1,8 +1,15 @@
 // StitchPipeline: stitches a project written by "panohead import" with Hugin's
 // programs, up to the finished panorama: control points (cpfind), the removal
 // of points between stacks that no authorised link joins, cpclean,
-// autooptimiser, pano_modify, nona and enblend. Hugin's programs do not always
-// report a failure by their exit code, so what every step wrote is checked.
+// autooptimiser, optionally the removal of links that disagree with the
+// optimised positions, pano_modify, then the render. A shoot of single
+// pictures is remapped (nona) and blended (enblend); stacks of exposures are
+// remapped picture by picture, each stack fused (enfuse) and the fused stacks
+// blended; an HDR panorama merges each stack to linear floating point
+// (nona -r hdr, hugin_hdrmerge) and blends the merged stacks into OpenEXR or
+// 32-bit float TIFF, with the fused panorama beside it as a JPEG preview.
+// Hugin's programs do not always report a failure by their exit code, so what
+// every step wrote is checked.
 //
 // No widgets and no event loop: run() blocks on the thread that calls it and
 // reports each step through a callback on that thread; cancel() may be called
@@ -19,14 +26,26 @@
 class StitchPipeline
 {
 public:
+    /// What the render makes of stacks of exposures.
+    enum class Output {
+        /// HDR when the description's output mode is 3 (32-bit HDR), else fused.
+        Automatic,
+        /// The exposures of every stack fused into an 8-bit panorama.
+        Fused,
+        /// A floating-point panorama of linear light, and a fused JPEG preview.
+        Hdr,
+    };
+
     struct Options
     {
         /// The imported Hugin project.
         QString project;
         /// The JSON description beside it; empty: the project's name with ".json".
         QString description;
-        /// The panorama file (.tif or .jpg); empty: the project's name with ".tif".
+        /// The panorama file: .tif or .jpg; for HDR .exr or .tif (32-bit
+        /// float). Empty: the project's name with ".tif", for HDR with ".exr".
         QString output;
+        Output mode = Output::Automatic;
         /// Where intermediate projects, pictures and logs go; empty: the
         /// project's name with ".stitch" beside it.
         QString workFolder;
@@ -49,10 +68,13 @@ public:
             Stopped,
         };
         Phase phase = Started;
-        /// 1 to count. Without "Auto detection" the stitch has 4 steps, else 7.
+        /// 1 to count. A shoot of single pictures without "Auto detection"
+        /// has 4 steps, with it 7; stacks add fusing, "Clean wrong link" a
+        /// check of the links, HDR three steps more.
         int step = 0;
         int count = 0;
-        /// The program the step runs ("cpfind"), or "links" for the filter.
+        /// The program the step runs ("cpfind"), "links" for the filter or
+        /// "linkcheck" for the removal of links that disagree.
         QString tool;
         /// What the step does for a person ("Finding control points"), in
         /// English; translatable in the context "StitchPipeline".
@@ -85,6 +107,9 @@ public:
         /// pixels is valid on success only.
         QString panorama;
         QSize panoramaSize;
+        /// HDR: the fused JPEG beside the panorama (absolute); else empty.
+        QString preview;
+        bool hdr = false;
         /// The last project written: on success the one the panorama is made of.
         QString stitchedProject;
         /// Absolute; empty only when the project file does not exist.
@@ -114,7 +139,8 @@ public:
     void cancel();
     bool isCancelled() const;
 
-    /// The programs the stitch runs, in order; every one must be found.
+    /// Every program a stitch may run, in order; those of the steps a stitch
+    /// runs must be found.
     static QStringList programs();
 
 private:

@@ -1,6 +1,6 @@
 // End to end on the bundled sample shoot: import the Papywizard record with
-// its 30 photographs, stitch with Hugin's real tools, and check the result
-// against the true angles the sample was rendered at.
+// its 30 photographs, stitch with Hugin's real tools (every exposure fused),
+// and check the result against the true angles the sample was rendered at.
 #include "CommandLine.h"
 #include "DescriptionJson.h"
 #include "ImageSize.h"
@@ -113,6 +113,14 @@ void tst_SampleStitch::importAndStitch()
     err.flush();
     QVERIFY2(code == 0, qPrintable(errText + outText));
     qInfo().noquote() << outText;
+    // Every photograph reaches the panorama: all 30 are remapped and each
+    // stack's three exposures fused.
+    QVERIFY2(outText.contains(QStringLiteral("remapping ... "))
+            && outText.contains(QStringLiteral(": 30 of 30 pictures")),
+        qPrintable(outText));
+    QVERIFY2(outText.contains(QStringLiteral("enfuse: fusing exposures ... done"))
+            && outText.contains(QStringLiteral(": 10 stacks")),
+        qPrintable(outText));
 
     const QDir work(dir.filePath(QStringLiteral("shoot.stitch")));
     PtoProject found, filtered, final;

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cmath>
+
 namespace {
 
 const char* const Project
@@ -49,6 +51,8 @@ private slots:
     void writeAndRead();
     void rejects_data();
     void rejects();
+    void pointError_data();
+    void pointError();
 };
 
 void tst_PtoProject::images()
@@ -201,6 +205,54 @@ void tst_PtoProject::rejects()
     QVERIFY(!p.parse(text, &error));
     QCOMPARE(error, reason);
     QCOMPARE(p.imageName(0), QStringLiteral("kept"));
+}
+
+void tst_PtoProject::pointError_data()
+{
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("point");
+    QTest::addColumn<double>("error");
+    // The first image looks at yaw 0, pitch 0 with 52.6° across 400 pixels:
+    // 404.67 pixels of focal length. Yaw 20° lies 147.29 pixels right of
+    // the centre.
+    QTest::newRow("yaw 40, the same direction") << "f0 v52.6 y40 p0 r0"
+                                                << "c n0 N1 x347.29 y150 X52.71 Y150 t0" << 0.0;
+    QTest::newRow("yaw 40, above the axis") << "f0 v52.6 y40 p0 r0"
+                                            << "c n0 N1 x347.29 y100 X52.71 Y100 t0" << 0.0;
+    // 137.29 pixels left of the centre is yaw 40 - 18.74.
+    QTest::newRow("yaw 40, 10 pixels off") << "f0 v52.6 y40 p0 r0"
+                                           << "c n0 N1 x347.29 y150 X62.71 Y150 t0" << 1.26;
+    QTest::newRow("pitch 10: 5° up lies 35.40 pixels above the centre")
+        << "f0 v52.6 y0 p10 r0"
+        << "c n0 N1 x200 y114.60 X200 Y185.40 t0" << 0.0;
+    QTest::newRow("yaw -40 is to the left") << "f0 v52.6 y-40 p0 r0"
+                                            << "c n0 N1 x52.71 y150 X347.29 Y150 t0" << 0.0;
+    QTest::newRow("fisheye 180° across, yaw 20: at its centre")
+        << "f3 v180 y20 p0 r0"
+        << "c n0 N1 x347.29 y150 X200 Y150 t0" << 0.0;
+    QTest::newRow("no such projection") << "f4 v52.6 y40 p0 r0"
+                                        << "c n0 N1 x347.29 y150 X52.71 Y150 t0" << -1.0;
+}
+
+void tst_PtoProject::pointError()
+{
+    QFETCH(QString, second);
+    QFETCH(QString, point);
+    QFETCH(double, error);
+    PtoProject project;
+    QString reason;
+    QVERIFY2(project.parse(QStringLiteral("p f2 w2000 h1000 v360\n"
+                                          "i w400 h300 f0 v52.6 y0 p0 r0 n\"a.jpg\"\n"
+                                          "i w400 h300 %1 n\"b.jpg\"\n%2\n")
+                               .arg(second, point),
+                 &reason),
+        qPrintable(reason));
+    QCOMPARE(project.controlPoints().size(), 1);
+    bool ok = false;
+    const double found = project.pointError(project.controlPoints().first(), &ok);
+    QCOMPARE(ok, error >= 0);
+    if (ok)
+        QVERIFY2(std::fabs(found - error) < 0.02, qPrintable(QString::number(found)));
 }
 
 QTEST_MAIN(tst_PtoProject)

@@ -4,6 +4,7 @@
 // ending a hanging program's whole process group without leaving its
 // partial output.
 #include "DescriptionJson.h"
+#include "PtoProject.h"
 #include "StitchPipeline.h"
 
 #include <QDir>
@@ -28,6 +29,38 @@ const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CRO
                            "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
                            "v r1 p1 y1\nv r2 p2 y2\nv\n";
 
+/// The same three positions with two exposures each; the second of a stack
+/// is hard-linked to the first.
+const char StackedProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+                                  "m i0\n"
+                                  "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 n\"P1b.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 n\"P2b.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
+                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 n\"P3b.jpg\"\n"
+                                  "v r2 p2 y2\nv r4 p4 y4\nv\n";
+
+/// What the stitch is given besides the stand-ins.
+struct Shoot
+{
+    bool autoDetection = true;
+    /// Two exposures per stack.
+    bool stacked = false;
+    int outputMode = -1;
+    bool cleanWrongLinks = false;
+    /// Stack 1 is also linked to stack 2, which it cannot meet (yaw 40 and
+    /// 160), and cpfind finds one point between them.
+    bool wrongLink = false;
+};
+
+/// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
+/// and one between stacks 1 and 2 that agrees with nothing.
+const char WrongLinkPoints[] = "c n0 N1 x347.21 y150 X52.79 Y150 t0\n"
+                               "c n0 N1 x347.21 y100 X52.79 Y100 t0\n"
+                               "c n0 N1 x347.21 y200 X52.79 Y200 t0\n"
+                               "c n1 N2 x300 y150 X100 Y150 t0\n";
+
 /// A script with $out (after -o), $last (the last argument) and $images
 /// (after each -i) set, then body.
 bool writeScript(const QString& path, const QString& body)
@@ -47,6 +80,13 @@ bool writeScript(const QString& path, const QString& body)
     return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+/// A script writing the header of a 100 × 50 TIFF to $out.
+const QString TiffHeader
+    = QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
+                     "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
+                     "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
+                     "\\000\\000\\000\\000' > \"$out\"");
+
 /// What each stand-in does when it behaves: the project passes through, the
 /// control point finder adds one point between the linked stacks 0 and 1,
 /// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
@@ -61,13 +101,12 @@ QMap<QString, QString> wellBehavedTools()
         { QStringLiteral("pano_modify"),
             QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
         { QStringLiteral("nona"),
-            QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
-                           "\"$i\")\"; done") },
-        { QStringLiteral("enblend"),
-            QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
-                           "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
-                           "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
-                           "\\000\\000\\000\\000' > \"$out\"") },
+            QStringLiteral("ext=tif; case \"$*\" in *EXR_m*) ext=exr;; esac\n"
+                           "for i in $images; do printf x > \"$(printf '%s%04d.%s' \"$out\" "
+                           "\"$i\" $ext)\"; done") },
+        { QStringLiteral("enfuse"), TiffHeader },
+        { QStringLiteral("hugin_hdrmerge"), QStringLiteral("printf x > \"$out\"") },
+        { QStringLiteral("enblend"), TiffHeader },
     };
 }
 
@@ -159,12 +198,20 @@ private slots:
     void endsTheProcessGroup_data();
     void endsTheProcessGroup();
     void cancelBeforeRun();
+    void render_data();
+    void render();
+    void renderFailure_data();
+    void renderFailure();
+    void hdrNeedsAFloatFormat();
+    void cleanWrongLink_data();
+    void cleanWrongLink();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
     /// well-behaved ones with changes); its options for the pipeline.
     StitchPipeline::Options makeStitch(
         const QMap<QString, QString>& changes, bool autoDetection = true);
+    StitchPipeline::Options makeStitch(const QMap<QString, QString>& changes, const Shoot& shoot);
 
     QTemporaryDir m_dir;
     int m_folders = 0;
@@ -178,6 +225,14 @@ void tst_StitchPipeline::initTestCase()
 StitchPipeline::Options tst_StitchPipeline::makeStitch(
     const QMap<QString, QString>& changes, bool autoDetection)
 {
+    Shoot shoot;
+    shoot.autoDetection = autoDetection;
+    return makeStitch(changes, shoot);
+}
+
+StitchPipeline::Options tst_StitchPipeline::makeStitch(
+    const QMap<QString, QString>& changes, const Shoot& shoot)
+{
     const QDir folder(m_dir.filePath(QStringLiteral("stitch-%1").arg(++m_folders)));
     StitchPipeline::Options options;
     if (!QDir().mkpath(folder.filePath(QStringLiteral("tools"))))
@@ -185,20 +240,34 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     QFile project(folder.filePath(QStringLiteral("shoot.pto")));
     if (!project.open(QIODevice::WriteOnly))
         return options;
-    project.write(ProjectText);
+    project.write(shoot.stacked ? StackedProjectText : ProjectText);
     project.close();
     StructuredPanoramaProperties panorama;
-    for (const char* name : { "P1.jpg", "P2.jpg", "P3.jpg" })
-        panorama.m_stacks << QStringList { folder.filePath(QLatin1String(name)) };
+    for (const char* name : { "P1", "P2", "P3" }) {
+        QStringList stack { folder.filePath(QLatin1String(name) + QStringLiteral(".jpg")) };
+        if (shoot.stacked)
+            stack << folder.filePath(QLatin1String(name) + QStringLiteral("b.jpg"));
+        panorama.m_stacks << stack;
+    }
     AuthorizedLink link;
     link.m_direction = 2;
     link.m_stackIndices = { 0, 1 };
     panorama.m_links = { link };
-    panorama.m_autoDetection = autoDetection;
+    if (shoot.wrongLink) {
+        link.m_stackIndices = { 1, 2 };
+        panorama.m_links << link;
+    }
+    panorama.m_autoDetection = shoot.autoDetection;
+    panorama.m_outputMode = shoot.outputMode;
+    panorama.m_cleanWrongLinks = shoot.cleanWrongLinks;
     QString error;
     if (!DescriptionJson::write(panorama, folder.filePath(QStringLiteral("shoot.json")), &error))
         return options;
     QMap<QString, QString> tools = wellBehavedTools();
+    if (shoot.wrongLink)
+        tools[QStringLiteral("cpfind")]
+            = QStringLiteral("cp \"$last\" \"$out\"; printf '%1' >> \"$out\"")
+                  .arg(QLatin1String(WrongLinkPoints));
     for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
         tools[it.key()] = it.value();
     for (auto it = tools.constBegin(); it != tools.constEnd(); ++it) {
@@ -492,6 +561,253 @@ void tst_StitchPipeline::cancelBeforeRun()
     QCOMPARE(worker.result().step, 1);
     QVERIFY(worker.events().isEmpty());
     QVERIFY(!QFileInfo::exists(marker));
+}
+
+using Output = StitchPipeline::Output;
+Q_DECLARE_METATYPE(Output)
+
+void tst_StitchPipeline::render_data()
+{
+    QTest::addColumn<bool>("stacked");
+    QTest::addColumn<int>("outputMode");
+    QTest::addColumn<Output>("mode");
+    QTest::addColumn<bool>("clean");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("panorama");
+    QTest::addColumn<QString>("preview");
+    const QString detection = QStringLiteral("cpfind links cpclean autooptimiser pano_modify ");
+    const QString fused = detection + QStringLiteral("nona enfuse enblend");
+    const QString hdr = fused + QStringLiteral(" nona hugin_hdrmerge enblend");
+    QTest::newRow("single pictures") << false << -1 << Output::Automatic << false
+                                     << detection + QStringLiteral("nona enblend") << "shoot.tif"
+                                     << "";
+    QTest::newRow("stacks fused") << true << -1 << Output::Automatic << false << fused
+                                  << "shoot.tif"
+                                  << "";
+    QTest::newRow("output mode HDR")
+        << true << 3 << Output::Automatic << false << hdr << "shoot.exr"
+        << "shoot.jpg";
+    QTest::newRow("output mode HDR, fused asked")
+        << true << 3 << Output::Fused << false << fused << "shoot.tif"
+        << "";
+    QTest::newRow("HDR asked") << true << 2 << Output::Hdr << false << hdr << "shoot.exr"
+                               << "shoot.jpg";
+    QTest::newRow("HDR of single pictures")
+        << false << -1 << Output::Hdr << false
+        << detection + QStringLiteral("nona enblend nona hugin_hdrmerge enblend") << "shoot.exr"
+        << "shoot.jpg";
+    QTest::newRow("clean wrong link")
+        << false << -1 << Output::Automatic << true
+        << QStringLiteral("cpfind links cpclean autooptimiser linkcheck pano_modify nona enblend")
+        << "shoot.tif"
+        << "";
+}
+
+void tst_StitchPipeline::render()
+{
+    QFETCH(bool, stacked);
+    QFETCH(int, outputMode);
+    QFETCH(Output, mode);
+    QFETCH(bool, clean);
+    QFETCH(QString, steps);
+    QFETCH(QString, panorama);
+    QFETCH(QString, preview);
+    Shoot shoot;
+    shoot.stacked = stacked;
+    shoot.outputMode = outputMode;
+    shoot.cleanWrongLinks = clean;
+    StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.mode = mode;
+    const QDir folder = QFileInfo(options.project).absoluteDir();
+    // What the stand-ins were given: one line per program run.
+    const QString calls = folder.filePath(QStringLiteral("calls"));
+    for (const QString& tool : { QStringLiteral("enfuse"), QStringLiteral("hugin_hdrmerge"),
+             QStringLiteral("autooptimiser") }) {
+        QFile script(folder.filePath(QStringLiteral("tools/") + tool));
+        QVERIFY(script.open(QIODevice::Append));
+        script.write(QStringLiteral("echo \"%1 $*\" >> \"%2\"\n").arg(tool, calls).toUtf8());
+    }
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QStringList tools;
+    for (const StepEvent& event : worker.events()) {
+        if (event.phase == StepEvent::Done)
+            tools << event.tool;
+    }
+    QCOMPARE(tools.join(QLatin1Char(' ')), steps);
+    QCOMPARE(result.stepCount, tools.size());
+    QCOMPARE(result.hdr, !preview.isEmpty());
+    QCOMPARE(result.panorama, folder.filePath(panorama));
+    QVERIFY(QFileInfo(result.panorama).isFile());
+    QCOMPARE(result.preview, preview.isEmpty() ? QString() : folder.filePath(preview));
+    QStringList left = folder.entryList(
+        { QStringLiteral("*.tif"), QStringLiteral("*.exr"), QStringLiteral("*.jpg") });
+    QStringList expected = { panorama };
+    if (!preview.isEmpty())
+        expected << preview;
+    std::sort(left.begin(), left.end());
+    std::sort(expected.begin(), expected.end());
+    QCOMPARE(left, expected);
+
+    // Each stack's exposures went to enfuse and, for HDR, to hugin_hdrmerge.
+    QFile file(calls);
+    const QStringList lines = file.open(QIODevice::ReadOnly)
+        ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+        : QStringList();
+    const int fusions = stacked ? 3 : 0;
+    const int merges = stacked && !preview.isEmpty() ? 3 : 0;
+    QCOMPARE(lines.filter(QStringLiteral("enfuse ")).size(), fusions);
+    QCOMPARE(lines.filter(QStringLiteral("hugin_hdrmerge ")).size(), merges);
+    for (const QString& line : lines.filter(QStringLiteral("enfuse ")))
+        QVERIFY2(line.contains(QStringLiteral("remapped0000.tif "))
+                == line.contains(QStringLiteral("remapped0001.tif")),
+            qPrintable(line));
+    // Photometric optimisation only for single pictures.
+    const QStringList optimiser = lines.filter(QStringLiteral("autooptimiser "));
+    QVERIFY(!optimiser.isEmpty());
+    for (const QString& line : optimiser)
+        QCOMPARE(line.contains(QStringLiteral(" -m ")), !stacked);
+    for (const QString& line : lines.filter(QStringLiteral("hugin_hdrmerge ")))
+        QVERIFY2(line.contains(QStringLiteral("linear")), qPrintable(line));
+}
+
+void tst_StitchPipeline::renderFailure_data()
+{
+    QTest::addColumn<bool>("hdr");
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("output");
+    const QString tiffOrGarbage = QStringLiteral("case \"$out\" in *.exr) echo garbage > "
+                                                 "\"$out\";; *) %1;; esac")
+                                      .arg(TiffHeader);
+    QTest::newRow("enfuse fails") << false << "enfuse"
+                                  << "echo 'bad layer'; exit 1" << 7 << "Fusing exposures"
+                                  << "stack 0: enfuse exit code 1: "
+                                  << " | bad layer";
+    QTest::newRow("enfuse writes nothing") << false << "enfuse"
+                                           << "exit 0" << 7 << "Fusing exposures"
+                                           << "enfuse wrote no picture for stack 0" << QString();
+    QTest::newRow("nona writes no linear picture")
+        << true << "nona"
+        << "case \"$*\" in *EXR_m*) exit 0;; esac\n"
+           "for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" \"$i\")\"; done"
+        << 9 << "Remapping to linear light"
+        << "nona wrote no remapped picture" << QString();
+    QTest::newRow("hugin_hdrmerge fails")
+        << true << "hugin_hdrmerge"
+        << "echo 'cannot merge'; exit 2" << 10 << "Merging exposures"
+        << "stack 0: hugin_hdrmerge exit code 2: "
+        << " | cannot merge";
+    QTest::newRow("hugin_hdrmerge writes nothing")
+        << true << "hugin_hdrmerge"
+        << "exit 0" << 10 << "Merging exposures"
+        << "hugin_hdrmerge wrote no picture for stack 0" << QString();
+    QTest::newRow("HDR blend writes no picture")
+        << true << "enblend" << tiffOrGarbage << 11 << "Blending the HDR panorama"
+        << "enblend wrote a panorama of -1 × -1 instead of 100 × 50" << QString();
+}
+
+void tst_StitchPipeline::renderFailure()
+{
+    QFETCH(bool, hdr);
+    QFETCH(QString, tool);
+    QFETCH(QString, script);
+    QFETCH(int, step);
+    QFETCH(QString, name);
+    QFETCH(QString, error);
+    QFETCH(QString, output);
+    Shoot shoot;
+    shoot.stacked = true;
+    StitchPipeline::Options options = makeStitch({ { tool, script } }, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.mode = hdr ? Output::Hdr : Output::Fused;
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, step);
+    QCOMPARE(result.stepCount, hdr ? 11 : 8);
+    QCOMPARE(result.tool, tool);
+    QCOMPARE(result.name, name);
+    if (output.isEmpty()) {
+        QCOMPARE(result.error, error);
+    } else {
+        QVERIFY2(result.error.startsWith(error), qPrintable(result.error));
+        QVERIFY2(result.error.endsWith(output), qPrintable(result.error));
+    }
+    QVERIFY(!result.error.contains(QLatin1Char('\n')) || !output.isEmpty());
+    QCOMPARE(worker.events().last().phase, StepEvent::Failed);
+    QCOMPARE(worker.events().last().note, result.error);
+    QVERIFY(!QFileInfo::exists(result.panorama));
+}
+
+void tst_StitchPipeline::hdrNeedsAFloatFormat()
+{
+    Shoot shoot;
+    shoot.stacked = true;
+    shoot.outputMode = 3;
+    StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.output = QFileInfo(options.project).absoluteDir().filePath(QStringLiteral("hdr.jpg"));
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 0);
+    QCOMPARE(result.error,
+        QStringLiteral("an HDR panorama is an OpenEXR (.exr) or float TIFF (.tif) file, not %1")
+            .arg(options.output));
+    QVERIFY(worker.events().isEmpty());
+}
+
+void tst_StitchPipeline::cleanWrongLink_data()
+{
+    QTest::addColumn<bool>("clean");
+    QTest::addColumn<int>("points");
+    QTest::newRow("set: the link that disagrees loses its points") << true << 3;
+    QTest::newRow("off: every linked pair keeps its points") << false << 4;
+}
+
+void tst_StitchPipeline::cleanWrongLink()
+{
+    QFETCH(bool, clean);
+    QFETCH(int, points);
+    Shoot shoot;
+    shoot.wrongLink = true;
+    shoot.cleanWrongLinks = clean;
+    const StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    PtoProject final;
+    QString error;
+    QVERIFY2(final.read(result.stitchedProject, &error), qPrintable(error));
+    QCOMPARE(final.controlPoints().size(), points);
+    QString note;
+    for (const StepEvent& event : worker.events()) {
+        if (event.tool == QLatin1String("linkcheck") && event.phase == StepEvent::Done)
+            note = event.note;
+    }
+    if (clean) {
+        QVERIFY2(
+            note.startsWith(QStringLiteral("links removed: 1-2 (1 points, ")), qPrintable(note));
+        for (const PtoProject::ControlPoint& point : final.controlPoints())
+            QCOMPARE(point.second, 1);
+    } else {
+        QVERIFY(note.isEmpty());
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
