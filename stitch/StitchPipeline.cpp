@@ -338,8 +338,8 @@ Outcome blendInto(Stitch& s, const QString& partial)
 
 Outcome blend(Stitch& s)
 {
-    // After a failed or stopped stitch no panorama is left, not even an older one.
-    QFile::remove(s.options.output);
+    // An older panorama stays until the new one, complete and checked, takes
+    // its name; a failed or stopped blend leaves it as it was.
     const QString partial = partialPanorama(s.options.output);
     QFile::remove(partial);
     const Outcome outcome = blendInto(s, partial);
