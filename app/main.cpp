@@ -15,6 +15,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -105,6 +106,10 @@ int runCommand(int argc, char** argv, const QStringList& arguments)
         app = std::make_unique<QCoreApplication>(argc, argv);
     }
     QCoreApplication::setApplicationName(QStringLiteral("panohead"));
+    // Every failure reaches the user as one line naming the file and the
+    // reason; the libraries' own warnings would only repeat it. QT_LOGGING_RULES
+    // still turns them on.
+    QLoggingCategory::setFilterRules(QStringLiteral("zph.*.warning=false\nzph.*.debug=false"));
     return runCommandLine(arguments);
 }
 #endif

@@ -533,9 +533,21 @@ QString ImportCommand::help()
         "                            clauss)\n"
         "  --stitch                  stitch the panorama right away (see panohead stitch)\n"
         "  --tools <folder>          with --stitch: where Hugin's programs are\n"
+        "  --force                   replace the project, description, layout picture\n"
+        "                            (and with --stitch the panorama) when they exist;\n"
+        "                            without it an import refuses to replace them\n"
         "  -h, --help                this text\n"
         "\n"
-        "Exit code: 0 done, 1 the import failed, 2 the command line is wrong.\n");
+        "The three files are written as a set: each to a temporary file beside it,\n"
+        "then all renamed into place, so a failed or stopped import leaves the\n"
+        "previous set as it was. While it writes, an import holds the lock file\n"
+        ".panohead.lock in the output folder; a second run into the same folder is\n"
+        "refused. Ctrl-C or SIGTERM stop it; nothing is left half-written.\n"
+        "In a folder of photographs, files named <name>-layout.png are layout\n"
+        "pictures, never photographs; a dangling link, a link loop, a FIFO, an empty\n"
+        "or unreadable file among the photographs is named and refused.\n"
+        "\n")
+        + QLatin1String(ExitCode::Table());
 }
 
 int ImportCommand::run(const QStringList& arguments, Console& console)

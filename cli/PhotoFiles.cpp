@@ -25,6 +25,22 @@ bool holdsControlCharacter(const QString& text)
 
 } // namespace
 
+QString printable(const QString& name)
+{
+    if (!holdsControlCharacter(name))
+        return name;
+    QString text;
+    for (const QChar c : name) {
+        if (c == QLatin1Char('\n'))
+            text += QStringLiteral("\\n");
+        else if (c.unicode() < 0x20 || c.unicode() == 0x7f)
+            text += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            text += c;
+    }
+    return text;
+}
+
 QString problem(const QString& path)
 {
     if (holdsControlCharacter(path))
@@ -83,7 +99,7 @@ QString collect(const QStringList& arguments, const QStringList& suffixes, bool 
                 if (reason.isEmpty())
                     inFolder << entry.absoluteFilePath();
                 else
-                    refused << QStringLiteral("%1 (%2)").arg(entry.fileName(), reason);
+                    refused << QStringLiteral("%1 (%2)").arg(printable(entry.fileName()), reason);
             }
             if (!refused.isEmpty())
                 return QStringLiteral("cannot use %1 in the folder %2: %3")
@@ -100,7 +116,8 @@ QString collect(const QStringList& arguments, const QStringList& suffixes, bool 
             return QStringLiteral("no such photograph or folder: %1").arg(argument);
         const QString reason = problem(argument);
         if (!reason.isEmpty())
-            return QStringLiteral("cannot use the photograph %1: %2").arg(argument, reason);
+            return QStringLiteral("cannot use the photograph %1: %2")
+                .arg(printable(argument), reason);
         *photos << info.absoluteFilePath();
     }
     photos->removeDuplicates();

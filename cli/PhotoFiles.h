@@ -13,6 +13,10 @@ namespace PhotoFiles {
 /// bytes)", ...); empty when it can.
 QString problem(const QString& path);
 
+/// name for a one-line message: a line break shows as \n, another control
+/// character as \xNN.
+QString printable(const QString& name);
+
 /// True when a folder's file is a layout picture of an import
 /// ("<name>-layout.png"), never a photograph.
 bool isLayoutPicture(const QString& fileName);

@@ -12,6 +12,10 @@
 #include <QFileInfo>
 #include <QVector>
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
 // cancel() stores into the flag from signal handlers too.
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
 
@@ -331,8 +335,13 @@ Outcome blendInto(Stitch& s, const QString& partial)
                            .arg(size.height())
                            .arg(expected.width())
                            .arg(expected.height()));
-    if (!QFile::rename(partial, s.options.output))
-        return failure(QStringLiteral("cannot rename %1 to %2").arg(partial, s.options.output));
+    // rename(2) replaces an older panorama in one step; QFile::rename would not.
+    if (std::rename(QFile::encodeName(partial).constData(),
+            QFile::encodeName(s.options.output).constData())
+        != 0)
+        return failure(QStringLiteral("cannot rename %1 to %2: %3")
+                           .arg(partial, s.options.output,
+                               QString::fromLocal8Bit(std::strerror(errno))));
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 

@@ -4,6 +4,7 @@
 // misbehave one at a time.
 #include "CommandLine.h"
 #include "DescriptionJson.h"
+#include "StandInTools.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,47 +55,6 @@ int imageLines(const QString& project)
     for (const QByteArray& line : file.readAll().split('\n'))
         count += line.startsWith("i ") ? 1 : 0;
     return count;
-}
-
-bool writeScript(const QString& path, const QString& body)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write("#!/bin/sh\nout=; prev=; last=; images=\n"
-               "for a in \"$@\"; do\n"
-               "  [ \"$prev\" = \"-o\" ] && out=\"$a\"\n"
-               "  [ \"$prev\" = \"-i\" ] && images=\"$images $a\"\n"
-               "  prev=\"$a\"; last=\"$a\"\n"
-               "done\n");
-    file.write(body.toUtf8());
-    file.write("\n");
-    file.close();
-    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-/// What each stand-in does when it behaves: the project passes through, the
-/// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
-/// 100 × 50 TIFF header.
-QMap<QString, QString> wellBehavedTools()
-{
-    return {
-        { QStringLiteral("cpfind"),
-            QStringLiteral("cp \"$last\" \"$out\"; echo 'c n0 N1 x1 y1 X2 Y2 t0' >> \"$out\"") },
-        { QStringLiteral("cpclean"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("autooptimiser"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("pano_modify"),
-            QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
-        { QStringLiteral("nona"),
-            QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
-                           "\"$i\")\"; done") },
-        { QStringLiteral("enblend"),
-            QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
-                           "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
-                           "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
-                           "\\000\\000\\000\\000' > \"$out\"") },
-    };
 }
 
 } // namespace
@@ -163,16 +123,7 @@ void tst_CommandLine::initTestCase()
 
 bool tst_CommandLine::makeTools(const QString& folder, const QMap<QString, QString>& changes)
 {
-    if (!QDir().mkpath(folder))
-        return false;
-    QMap<QString, QString> tools = wellBehavedTools();
-    for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
-        tools[it.key()] = it.value();
-    for (auto it = tools.constBegin(); it != tools.constEnd(); ++it) {
-        if (!writeScript(QDir(folder).filePath(it.key()), it.value()))
-            return false;
-    }
-    return true;
+    return StandInTools::make(folder, changes);
 }
 
 void tst_CommandLine::help()
