@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "BatchCommand.h"
 #include "ExitCode.h"
 #include "ImportCommand.h"
 #include "StitchCommand.h"
@@ -15,12 +16,13 @@
 
 bool CommandLine::isCommand(const QString& argument)
 {
-    return argument == QLatin1String("import") || argument == QLatin1String("stitch");
+    return argument == QLatin1String("import") || argument == QLatin1String("stitch")
+        || argument == QLatin1String("batch");
 }
 
 bool CommandLine::drawsPictures(const QString& command)
 {
-    return command == QLatin1String("import");
+    return command == QLatin1String("import") || command == QLatin1String("batch");
 }
 
 QString CommandLine::help()
@@ -29,6 +31,7 @@ QString CommandLine::help()
                "Usage: panohead [--locale <name>] [--plugin-dir <folder>]... [--settings <file>]\n"
                "       panohead import <head> [options] [<record>] <photographs>...\n"
                "       panohead stitch [options] <project.pto>\n"
+               "       panohead batch [options] <folder of shoots | list file>...\n"
                "       panohead --help | --version\n"
                "\n"
                "Without a command, panohead opens the import wizard (it needs a display):\n"
@@ -41,6 +44,8 @@ QString CommandLine::help()
                "           and a layout picture (panohead import --help)\n"
                "  stitch   Hugin's tools on such a project, up to the panorama\n"
                "           (panohead stitch --help)\n"
+               "  batch    many shoots in one call, on past the ones that fail, with a\n"
+               "           summary table (panohead batch --help)\n"
                "\n"
                "  -h, --help     this text\n"
                "  -v, --version  the versions of panohead, Qt and exiv2, and where Hugin's\n"
@@ -79,6 +84,8 @@ int CommandLine::run(const QStringList& arguments, Console& console)
         return ImportCommand::run(arguments.mid(1), console);
     if (command == QLatin1String("stitch"))
         return StitchCommand::run(arguments.mid(1), console);
+    if (command == QLatin1String("batch"))
+        return BatchCommand::run(arguments.mid(1), console);
     if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
         console.out << help();
         console.out.flush();
@@ -90,7 +97,7 @@ int CommandLine::run(const QStringList& arguments, Console& console)
         return ExitCode::Done;
     }
     console.err << "panohead: unknown command \"" << command
-                << "\"; the commands are import and stitch (see panohead --help)\n";
+                << "\"; the commands are import, stitch and batch (see panohead --help)\n";
     console.err.flush();
     return ExitCode::UsageError;
 }

@@ -141,8 +141,8 @@ void tst_CommandLine::help()
     o = command({ QStringLiteral("frob") });
     QCOMPARE(o.code, 2);
     QCOMPARE(o.err,
-        QStringLiteral("panohead: unknown command \"frob\"; the commands are import and stitch "
-                       "(see panohead --help)\n"));
+        QStringLiteral("panohead: unknown command \"frob\"; the commands are import, stitch "
+                       "and batch (see panohead --help)\n"));
 }
 
 void tst_CommandLine::importErrors_data()

@@ -140,6 +140,7 @@ private slots:
     void interrupted_data();
     void interrupted();
     void fullDisk();
+    void batch();
 
 private:
     QString data(const QString& name) const
@@ -289,7 +290,7 @@ void tst_CommandLineProgram::noDisplayNeeded_data()
                                  << 0 << "143 stopped by SIGTERM" << QString();
     QTest::newRow("mistyped command") << QStringList { QStringLiteral("help") } << 2 << QString()
                                       << "panohead: unknown command \"help\"; the commands are "
-                                         "import and stitch (see panohead --help)\n";
+                                         "import, stitch and batch (see panohead --help)\n";
     QTest::newRow("unknown option") << QStringList { QStringLiteral("--frob") } << 2 << QString()
                                     << "panohead: Unknown option 'frob'. (see panohead --help)\n";
     QTest::newRow("the wizard") << QStringList {} << 1 << QString()
@@ -635,6 +636,51 @@ void tst_CommandLineProgram::fullDisk()
     QCOMPARE(run.err.count(QLatin1Char('\n')), 1);
     // The earlier set is whole, and nothing else was left behind.
     QCOMPARE(snapshot(folder), full);
+}
+
+void tst_CommandLineProgram::batch()
+{
+    // Three shoots, the middle one broken: two photographs for three shots.
+    const QDir shoots(path(QStringLiteral("batch")));
+    const QStringList names
+        = { QStringLiteral("a-good"), QStringLiteral("b-broken"), QStringLiteral("c-good") };
+    for (const QString& name : names) {
+        QVERIFY(savePictures(shoots.filePath(name), name == names[1] ? 2 : 3));
+        QVERIFY(QFile::copy(data(QStringLiteral("three-shots.xml")),
+            shoots.filePath(name + QStringLiteral("/three-shots.xml"))));
+    }
+    const Run run = panohead({ QStringLiteral("batch"), QStringLiteral("--stitch"),
+        QStringLiteral("--tools"), path(QStringLiteral("tools/good")), shoots.path(),
+        QStringLiteral("--"), QStringLiteral("--focal"), QStringLiteral("35") });
+    QVERIFY(!run.crashed);
+    QCOMPARE(run.code, 1);
+    const QString reason
+        = QStringLiteral("panohead import: the record holds 3 shots but 2 photographs were given");
+    QCOMPARE(run.err, reason + QLatin1Char('\n'));
+    QVERIFY2(run.out.contains(QStringLiteral("\nBatch: 2 of 3 shoots done, 1 failed\n"
+                                             "shoot     result  exit  reason\n"
+                                             "a-good    done    0\n"
+                                             "b-broken  failed  1     ")
+                                  + reason + QStringLiteral("\nc-good    done    0\n")),
+        qPrintable(run.out));
+    for (const QString& name : { names[0], names[2] })
+        QVERIFY(QFileInfo(shoots.filePath(name + QStringLiteral("/three-shots.tif"))).isFile());
+    QVERIFY(!QFileInfo::exists(shoots.filePath(QStringLiteral("b-broken/three-shots.pto"))));
+
+    // The same shoots again, from a list file: the outputs exist now.
+    const QString list = path(QStringLiteral("shoots.txt"));
+    QByteArray lines = "# one import per line\n";
+    for (const QString& name : names)
+        lines += QStringLiteral("papywizard --focal 35 \"%1/three-shots.xml\" \"%1\" -o \"%1\"\n")
+                     .arg(shoots.filePath(name))
+                     .toUtf8();
+    QVERIFY(writeFile(list, lines));
+    const Run again = panohead({ QStringLiteral("batch"), list });
+    QCOMPARE(again.code, 1);
+    QVERIFY2(again.out.contains(QStringLiteral("Batch: 0 of 3 shoots done, 3 failed")),
+        qPrintable(again.out));
+    QVERIFY2(again.err.contains(QStringLiteral("exists; give --force to replace it")),
+        qPrintable(again.err));
 }
 
 QTEST_GUILESS_MAIN(tst_CommandLineProgram)
