@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -140,6 +141,7 @@ private slots:
     void interrupted_data();
     void interrupted();
     void fullDisk();
+    void lockedFolder();
     void batch();
 
 private:
@@ -636,6 +638,32 @@ void tst_CommandLineProgram::fullDisk()
     QCOMPARE(run.err.count(QLatin1Char('\n')), 1);
     // The earlier set is whole, and nothing else was left behind.
     QCOMPARE(snapshot(folder), full);
+}
+
+void tst_CommandLineProgram::lockedFolder()
+{
+    const QString folder = path(QStringLiteral("locked"));
+    QVERIFY(importThreeShots(folder, path(QStringLiteral("three"))));
+    // Another run writes into the folder: this test holds its lock.
+    QLockFile lock(QDir(folder).filePath(QStringLiteral(".panohead.lock")));
+    QVERIFY(lock.tryLock(0));
+    const QMap<QString, QByteArray> before = snapshot(folder);
+    const QStringList import = { QStringLiteral("import"), QStringLiteral("papywizard"),
+        QStringLiteral("--focal"), QStringLiteral("50"), QStringLiteral("--force"),
+        data(QStringLiteral("three-shots.xml")), path(QStringLiteral("three")), QStringLiteral("-o"),
+        folder };
+    const Run refused = panohead(import);
+    QCOMPARE(refused.code, 1);
+    QCOMPARE(refused.err,
+        QStringLiteral("panohead import: another run (process %1) is writing into %2; try again "
+                       "when it has finished (lock file .panohead.lock)\n")
+            .arg(QCoreApplication::applicationPid())
+            .arg(folder));
+    QCOMPARE(snapshot(folder), before);
+    lock.unlock();
+    const Run done = panohead(import);
+    QVERIFY2(done.code == 0, qPrintable(done.err));
+    QVERIFY(!QFileInfo::exists(QDir(folder).filePath(QStringLiteral(".panohead.lock"))));
 }
 
 void tst_CommandLineProgram::batch()
