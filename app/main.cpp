@@ -10,6 +10,7 @@
 
 #ifdef ZPH_HAVE_CLI
 #include "CommandLine.h"
+#include "StopSignals.h"
 #endif
 
 #include <QCommandLineParser>
@@ -91,6 +92,10 @@ int runCommand(int argc, char** argv, const QStringList& arguments)
     // when the session gives no runtime folder (a service, cron, ssh without
     // a login session). A private folder, removed when the command ends,
     // keeps the output clean and leaves nothing behind.
+    // A signal while Qt starts ends the program with the same code and line
+    // as one during the command.
+    const StopSignals stopSignals;
+    StopSignals::setExitAtOnce("panohead: stopped\n");
     std::unique_ptr<QTemporaryDir> runtimeFolder;
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
         runtimeFolder = std::make_unique<QTemporaryDir>();

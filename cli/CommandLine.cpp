@@ -79,6 +79,9 @@ QString CommandLine::version()
 int CommandLine::run(const QStringList& arguments, Console& console)
 {
     const StopSignals stopSignals;
+    // From here a signal is recorded; each command decides when it ends the
+    // program at once (nothing of its own on disk) and when it cleans up first.
+    StopSignals::clearExitAtOnce();
     const QString command = arguments.value(0);
     if (command == QLatin1String("import"))
         return ImportCommand::run(arguments.mid(1), console);

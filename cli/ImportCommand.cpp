@@ -423,8 +423,20 @@ Failure runImport(const Choices& c, Console& console)
     if (picture.isNull())
         return inputError(QStringLiteral("the panorama has no stack to draw"));
 
+    const bool folderExisted = QFileInfo(folderPath).isDir();
     if (!QDir().mkpath(folderPath))
         return inputError(QStringLiteral("cannot create the output folder %1").arg(c.outputFolder));
+    // A failed or stopped import leaves no empty folder of its own behind.
+    struct RemoveIfEmpty
+    {
+        QString folder;
+        bool keep;
+        ~RemoveIfEmpty()
+        {
+            if (!keep)
+                QDir().rmdir(folder);
+        }
+    } created { folderPath, folderExisted };
     {
         OutputFiles::FolderLock lock;
         if (!lock.lock(folderPath, &error))
@@ -448,6 +460,7 @@ Failure runImport(const Choices& c, Console& console)
         }
         if (!files.commit(&error))
             return inputError(error);
+        created.keep = true;
     }
 
     const StructuredPanoramaProperties& p = imported.input.panorama;

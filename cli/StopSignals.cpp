@@ -18,6 +18,8 @@ std::atomic<const char*> s_exitMessage { nullptr };
 static_assert(std::atomic<int>::is_always_lock_free, "the signal must be stored lock-free");
 static_assert(std::atomic<StitchPipeline*>::is_always_lock_free, "pointers must be lock-free");
 
+/// StopSignals objects alive; the outermost installs and restores.
+int s_depth = 0;
 struct sigaction s_previousInt = {};
 struct sigaction s_previousTerm = {};
 
@@ -38,6 +40,8 @@ extern "C" void onStopSignal(int signal)
 
 StopSignals::StopSignals()
 {
+    if (s_depth++ > 0)
+        return;
     s_received.store(0);
     s_pipeline.store(nullptr);
     s_exitMessage.store(nullptr);
@@ -51,6 +55,8 @@ StopSignals::StopSignals()
 
 StopSignals::~StopSignals()
 {
+    if (--s_depth > 0)
+        return;
     sigaction(SIGINT, &s_previousInt, nullptr);
     sigaction(SIGTERM, &s_previousTerm, nullptr);
     s_pipeline.store(nullptr);

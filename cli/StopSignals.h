@@ -15,7 +15,9 @@ class StopSignals
 {
 public:
     /// Catches SIGINT and SIGTERM until destroyed, then restores the
-    /// previous handlers. One at a time, on the main thread.
+    /// previous handlers. On the main thread; objects may nest (the program
+    /// catches signals from its start, a command for its run), the
+    /// outermost one installing and restoring.
     StopSignals();
     ~StopSignals();
     StopSignals(const StopSignals&) = delete;
