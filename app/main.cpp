@@ -63,7 +63,8 @@ QStringList argumentList(int argc, char** argv)
 /// WAYLAND_DISPLAY; other platforms (offscreen, eglfs, vnc ...) need neither.
 QString missingDisplay()
 {
-    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM").section(QLatin1Char(';'), 0, 0);
+    const QString platform
+        = qEnvironmentVariable("QT_QPA_PLATFORM").section(QLatin1Char(';'), 0, 0);
     const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
     const bool wayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     if (platform.isEmpty()) {

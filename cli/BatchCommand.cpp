@@ -98,8 +98,8 @@ bool BatchCommand::shootArguments(const QString& folder, QStringList* arguments,
         return false;
     }
     if (records.isEmpty())
-        *arguments = QStringList { QStringLiteral("gigapan"), QStringLiteral("--name"),
-            dir.dirName() };
+        *arguments
+            = QStringList { QStringLiteral("gigapan"), QStringLiteral("--name"), dir.dirName() };
     else
         *arguments = QStringList { head, records.first() };
     *arguments << dir.absolutePath();
@@ -204,8 +204,8 @@ int BatchCommand::run(const QStringList& arguments, Console& console)
         }
     }
     if (shoots.isEmpty()) {
-        console.err << "panohead batch: no shoots in " << parser.positionalArguments().join(QStringLiteral(", "))
-                    << '\n';
+        console.err << "panohead batch: no shoots in "
+                    << parser.positionalArguments().join(QStringLiteral(", ")) << '\n';
         console.err.flush();
         return ExitCode::InputError;
     }
@@ -273,13 +273,13 @@ int BatchCommand::run(const QStringList& arguments, Console& console)
                        .arg(QStringLiteral("exit"), -4)
                        .arg(QStringLiteral("reason"));
     for (const Outcome& o : outcomes) {
-        const QString row = QStringLiteral("%1  %2  %3  %4")
-                                .arg(o.name, -width)
-                                .arg(o.code == ExitCode::Done ? QStringLiteral("done")
-                                                              : QStringLiteral("failed"),
-                                    -6)
-                                .arg(o.code, -4)
-                                .arg(o.reason);
+        const QString row
+            = QStringLiteral("%1  %2  %3  %4")
+                  .arg(o.name, -width)
+                  .arg(o.code == ExitCode::Done ? QStringLiteral("done") : QStringLiteral("failed"),
+                      -6)
+                  .arg(o.code, -4)
+                  .arg(o.reason);
         console.out << row.trimmed() << '\n';
     }
     console.out.flush();

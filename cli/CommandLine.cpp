@@ -66,10 +66,9 @@ QString CommandLine::version()
     for (const QString& tool : StitchPipeline::programs()) {
         const QString path = tools.program(tool);
         out << "  " << qSetFieldWidth(14) << left << tool << qSetFieldWidth(0)
-            << (path.isEmpty()
-                       ? QStringLiteral("not found (Debian package %1)")
-                             .arg(StitchCommand::package(tool))
-                       : path)
+            << (path.isEmpty() ? QStringLiteral("not found (Debian package %1)")
+                                     .arg(StitchCommand::package(tool))
+                               : path)
             << '\n';
     }
     out.flush();

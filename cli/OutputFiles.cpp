@@ -95,7 +95,8 @@ bool FolderLock::lock(const QString& folder, QString* error)
         break;
     default:
         *error = QStringLiteral("cannot write into %1: %2")
-                     .arg(QDir::toNativeSeparators(folder), QString::fromLocal8Bit(std::strerror(errno)));
+                     .arg(QDir::toNativeSeparators(folder),
+                         QString::fromLocal8Bit(std::strerror(errno)));
         break;
     }
     m_lock.reset();

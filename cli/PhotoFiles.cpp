@@ -14,14 +14,14 @@ namespace PhotoFiles {
 
 namespace {
 
-bool holdsControlCharacter(const QString& text)
-{
-    for (const QChar c : text) {
-        if (c.unicode() < 0x20 || c.unicode() == 0x7f)
-            return true;
+    bool holdsControlCharacter(const QString& text)
+    {
+        for (const QChar c : text) {
+            if (c.unicode() < 0x20 || c.unicode() == 0x7f)
+                return true;
+        }
+        return false;
     }
-    return false;
-}
 
 } // namespace
 
@@ -80,8 +80,8 @@ bool isLayoutPicture(const QString& fileName)
     return fileName.endsWith(QLatin1String("-layout.png"), Qt::CaseInsensitive);
 }
 
-QString collect(const QStringList& arguments, const QStringList& suffixes, bool sortByName,
-    QStringList* photos)
+QString collect(
+    const QStringList& arguments, const QStringList& suffixes, bool sortByName, QStringList* photos)
 {
     for (const QString& argument : arguments) {
         const QFileInfo info(argument);

@@ -183,39 +183,39 @@ QString StitchCommand::package(const QString& tool)
 QString StitchCommand::help()
 {
     return QString::fromUtf8(
-        "Usage: panohead stitch [options] <project.pto>\n"
-        "\n"
-        "Stitches a project written by \"panohead import\" with Hugin's tools: cpfind\n"
-        "finds control points (guided by the recorded positions), the points between\n"
-        "stacks that no authorised link joins are removed, cpclean removes wrong\n"
-        "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
-        "crop, nona remaps the first picture of every stack and enblend blends them.\n"
-        "The description's options are honoured: without \"Auto detection\" no points\n"
-        "are looked for and the recorded positions are used as they are; \"Skip\n"
-        "optimization\" keeps the positions; without \"Use recorded location\" cpfind\n"
-        "tries every pair (--multirow); linking all stack levels, or control points\n"
-        "inside stacks, looks for points in every picture.\n"
-        "\n"
-        "Options:\n"
-        "  --description <file.json> the panorama description (default: beside the\n"
-        "                            project, same name)\n"
-        "  -o, --output <file>       the panorama, .tif or .jpg (default: <name>.tif\n"
-        "                            beside the project)\n"
-        "  --work-folder <folder>    intermediate projects, pictures and the log\n"
-        "                            (default: <name>.stitch beside the project)\n"
-        "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
-        "  --timeout <seconds>       longest run of any one program, 1 to 86400\n"
-        "                            (default 900)\n"
-        "  --force                   replace the panorama when it exists; without it\n"
-        "                            the stitch refuses to replace it\n"
-        "  -h, --help                this text\n"
-        "\n"
-        "The panorama is written under a temporary name beside it and takes its name\n"
-        "only when complete: a failed or stopped stitch leaves an older panorama as\n"
-        "it was. While it runs, the stitch holds the lock file .panohead.lock in the\n"
-        "panorama's folder. Ctrl-C or SIGTERM end the running program within a\n"
-        "second and remove its partial output.\n"
-        "\n")
+               "Usage: panohead stitch [options] <project.pto>\n"
+               "\n"
+               "Stitches a project written by \"panohead import\" with Hugin's tools: cpfind\n"
+               "finds control points (guided by the recorded positions), the points between\n"
+               "stacks that no authorised link joins are removed, cpclean removes wrong\n"
+               "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
+               "crop, nona remaps the first picture of every stack and enblend blends them.\n"
+               "The description's options are honoured: without \"Auto detection\" no points\n"
+               "are looked for and the recorded positions are used as they are; \"Skip\n"
+               "optimization\" keeps the positions; without \"Use recorded location\" cpfind\n"
+               "tries every pair (--multirow); linking all stack levels, or control points\n"
+               "inside stacks, looks for points in every picture.\n"
+               "\n"
+               "Options:\n"
+               "  --description <file.json> the panorama description (default: beside the\n"
+               "                            project, same name)\n"
+               "  -o, --output <file>       the panorama, .tif or .jpg (default: <name>.tif\n"
+               "                            beside the project)\n"
+               "  --work-folder <folder>    intermediate projects, pictures and the log\n"
+               "                            (default: <name>.stitch beside the project)\n"
+               "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
+               "  --timeout <seconds>       longest run of any one program, 1 to 86400\n"
+               "                            (default 900)\n"
+               "  --force                   replace the panorama when it exists; without it\n"
+               "                            the stitch refuses to replace it\n"
+               "  -h, --help                this text\n"
+               "\n"
+               "The panorama is written under a temporary name beside it and takes its name\n"
+               "only when complete: a failed or stopped stitch leaves an older panorama as\n"
+               "it was. While it runs, the stitch holds the lock file .panohead.lock in the\n"
+               "panorama's folder. Ctrl-C or SIGTERM end the running program within a\n"
+               "second and remove its partial output.\n"
+               "\n")
         + QLatin1String(ExitCode::Table());
 }
 
@@ -318,8 +318,7 @@ int StitchCommand::stitch(const Options& options, bool force, Console& console)
                            .arg(result.stepCount)
                            .arg(result.tool, log);
         console.err.flush();
-        return StopSignals::received() ? StopSignals::exitCode()
-                                       : ExitCode::Interrupted + SIGINT;
+        return StopSignals::received() ? StopSignals::exitCode() : ExitCode::Interrupted + SIGINT;
     case StitchPipeline::Result::Succeeded:
         break;
     }

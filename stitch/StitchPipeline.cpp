@@ -336,12 +336,12 @@ Outcome blendInto(Stitch& s, const QString& partial)
                            .arg(expected.width())
                            .arg(expected.height()));
     // rename(2) replaces an older panorama in one step; QFile::rename would not.
-    if (std::rename(QFile::encodeName(partial).constData(),
-            QFile::encodeName(s.options.output).constData())
+    if (std::rename(
+            QFile::encodeName(partial).constData(), QFile::encodeName(s.options.output).constData())
         != 0)
-        return failure(QStringLiteral("cannot rename %1 to %2: %3")
-                           .arg(partial, s.options.output,
-                               QString::fromLocal8Bit(std::strerror(errno))));
+        return failure(
+            QStringLiteral("cannot rename %1 to %2: %3")
+                .arg(partial, s.options.output, QString::fromLocal8Bit(std::strerror(errno))));
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 

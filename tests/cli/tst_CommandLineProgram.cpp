@@ -142,6 +142,7 @@ private slots:
     void interrupted();
     void fullDisk();
     void lockedFolder();
+    void layoutPictureIsNoPhotograph();
     void batch();
 
 private:
@@ -208,7 +209,8 @@ void tst_CommandLineProgram::initTestCase()
                 && ::chmod(name.constData(), 0) == 0);
     }
     QVERIFY(savePictures(path(QStringLiteral("newline")), 2));
-    QVERIFY(QFile::copy(path(QStringLiteral("newline/P1.jpg")), path(QStringLiteral("newline/P\n3.jpg"))));
+    QVERIFY(QFile::copy(
+        path(QStringLiteral("newline/P1.jpg")), path(QStringLiteral("newline/P\n3.jpg"))));
 
     // Records.
     QVERIFY(QDir().mkpath(path(QStringLiteral("records/folder.xml"))));
@@ -223,7 +225,8 @@ void tst_CommandLineProgram::initTestCase()
     QFile threeShots(data(QStringLiteral("three-shots.xml")));
     QVERIFY(threeShots.open(QIODevice::ReadOnly));
     const QByteArray record = threeShots.readAll();
-    QVERIFY(writeFile(path(QStringLiteral("records/truncated.xml")), record.left(record.size() / 2)));
+    QVERIFY(
+        writeFile(path(QStringLiteral("records/truncated.xml")), record.left(record.size() / 2)));
     QVERIFY(writeFile(path(QStringLiteral("records/infinite.xml")),
         QByteArray(record).replace("yaw=\"40.0\"", "yaw=\"inf\"")));
     QFile preset(data(QStringLiteral("two-by-two-bracket2.xml")));
@@ -240,10 +243,10 @@ void tst_CommandLineProgram::initTestCase()
     QVERIFY(savePictures(path(QStringLiteral("moved/three")), 3));
     QVERIFY(importThreeShots(path(QStringLiteral("moved")), path(QStringLiteral("moved/three"))));
     QVERIFY(QFile::remove(path(QStringLiteral("moved/three/P2.jpg"))));
-    const Run other = panohead({ QStringLiteral("import"), QStringLiteral("gigapan"),
-        QStringLiteral("--focal"), QStringLiteral("35"), QStringLiteral("--name"),
-        QStringLiteral("three-shots"), path(QStringLiteral("photos")), QStringLiteral("-o"),
-        path(QStringLiteral("other")) });
+    const Run other
+        = panohead({ QStringLiteral("import"), QStringLiteral("gigapan"), QStringLiteral("--focal"),
+            QStringLiteral("35"), QStringLiteral("--name"), QStringLiteral("three-shots"),
+            path(QStringLiteral("photos")), QStringLiteral("-o"), path(QStringLiteral("other")) });
     QVERIFY2(other.code == 0, qPrintable(other.err));
 
     // Hugin's programs: all, none, all but the blender, and failing ones.
@@ -251,8 +254,8 @@ void tst_CommandLineProgram::initTestCase()
     QVERIFY(QDir().mkpath(path(QStringLiteral("tools/none"))));
     QVERIFY(StandInTools::make(
         path(QStringLiteral("tools/no-enblend")), { { QStringLiteral("enblend"), QString() } }));
-    QVERIFY(StandInTools::make(
-        path(QStringLiteral("tools/cpfind-fails")), { { QStringLiteral("cpfind"), QStringLiteral("exit 3") } }));
+    QVERIFY(StandInTools::make(path(QStringLiteral("tools/cpfind-fails")),
+        { { QStringLiteral("cpfind"), QStringLiteral("exit 3") } }));
     // A blender whose log holds NUL bytes before its reason.
     QVERIFY(StandInTools::make(path(QStringLiteral("tools/enblend-nul")),
         { { QStringLiteral("enblend"),
@@ -284,11 +287,12 @@ void tst_CommandLineProgram::noDisplayNeeded_data()
     QTest::addColumn<QString>("err");
     QTest::newRow("help") << QStringList { QStringLiteral("--help") } << 0
                           << "Exit code: 0 done, 1 an input is wrong" << QString();
-    QTest::newRow("version") << QStringList { QStringLiteral("--version") } << 0
-                             << "\nexiv2 " << QString();
+    QTest::newRow("version") << QStringList { QStringLiteral("--version") } << 0 << "\nexiv2 "
+                             << QString();
     QTest::newRow("import help") << QStringList { QStringLiteral("import"), QStringLiteral("-h") }
                                  << 0 << "130 stopped by Ctrl-C" << QString();
-    QTest::newRow("stitch help") << QStringList { QStringLiteral("stitch"), QStringLiteral("--help") }
+    QTest::newRow("stitch help") << QStringList { QStringLiteral("stitch"),
+        QStringLiteral("--help") }
                                  << 0 << "143 stopped by SIGTERM" << QString();
     QTest::newRow("mistyped command") << QStringList { QStringLiteral("help") } << 2 << QString()
                                       << "panohead: unknown command \"help\"; the commands are "
@@ -328,10 +332,10 @@ void tst_CommandLineProgram::presetPlatform()
         QProcessEnvironment env = headless();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QLatin1String(platform));
         const QString folder = path(QStringLiteral("platform-") + QLatin1String(platform));
-        const Run run = panohead({ QStringLiteral("import"), QStringLiteral("papywizard"),
-                                     QStringLiteral("--focal"), QStringLiteral("35"),
-                                     data(QStringLiteral("three-shots.xml")),
-                                     path(QStringLiteral("three")), QStringLiteral("-o"), folder },
+        const Run run = panohead(
+            { QStringLiteral("import"), QStringLiteral("papywizard"), QStringLiteral("--focal"),
+                QStringLiteral("35"), data(QStringLiteral("three-shots.xml")),
+                path(QStringLiteral("three")), QStringLiteral("-o"), folder },
             env);
         QVERIFY(!run.crashed);
         QVERIFY2(run.code == 0, qPrintable(run.err));
@@ -376,9 +380,9 @@ void tst_CommandLineProgram::badInput_data()
     QTest::newRow("record is a folder")
         << importWith(record("folder.xml"), three) << 1
         << QStringLiteral("the record %1 is a folder, not a file").arg(record("folder.xml")) << out;
-    QTest::newRow("record is empty") << importWith(record("empty.xml"), three) << 1
-                                     << QStringLiteral("the record %1 is empty").arg(record("empty.xml"))
-                                     << out;
+    QTest::newRow("record is empty")
+        << importWith(record("empty.xml"), three) << 1
+        << QStringLiteral("the record %1 is empty").arg(record("empty.xml")) << out;
     QTest::newRow("record is binary")
         << importWith(record("binary.xml"), three) << 1
         << QStringLiteral("the record %1 holds binary data").arg(record("binary.xml")) << out;
@@ -397,17 +401,15 @@ void tst_CommandLineProgram::badInput_data()
         << out;
     QTest::newRow("script of another head")
         << QStringList { i, QStringLiteral("clauss"), focal, mm, force, shots, three, o, out } << 1
-        << QStringLiteral("the record %1 is an XML record, not a Clauss shooting script")
-               .arg(shots)
+        << QStringLiteral("the record %1 is an XML record, not a Clauss shooting script").arg(shots)
         << out;
     QTest::newRow("angle not finite")
         << importWith(record("infinite.xml"), three) << 1
         << QStringLiteral("gives stack 1 an angle that is not a finite number") << out;
-    QTest::newRow("record focal far too long")
-        << QStringList { i, papy, focal, QStringLiteral("record"), force, record("far-focal.xml"),
-               photos("photos"), o, out }
-        << 1 << QStringLiteral("the record's focal length 1e+308 mm is outside 1 to 10000 mm")
-        << out;
+    QTest::newRow("record focal far too long") << QStringList { i, papy, focal,
+        QStringLiteral("record"), force, record("far-focal.xml"), photos("photos"), o,
+        out } << 1 << QStringLiteral("the record's focal length 1e+308 mm is outside 1 to 10000 mm")
+                                               << out;
 
     // The photographs.
     QTest::newRow("photograph missing")
@@ -419,9 +421,9 @@ void tst_CommandLineProgram::badInput_data()
         << QStringLiteral("cannot use 1 file in the folder %1: P3.jpg (empty (0 bytes))")
                .arg(photos("zero"))
         << out;
-    QTest::newRow("photograph not a picture") << importWith(shots, photos("notimage")) << 1
-                                              << QStringLiteral("cannot read 1 photograph: P3.jpg")
-                                              << out;
+    QTest::newRow("photograph not a picture")
+        << importWith(shots, photos("notimage")) << 1
+        << QStringLiteral("cannot read 1 photograph: P3.jpg") << out;
     QTest::newRow("photographs of mixed sizes")
         << importWith(shots, photos("mixed")) << 1
         << QStringLiteral("the photographs are not all of one size: P1.jpg is 64 × 48 pixels, "
@@ -443,25 +445,24 @@ void tst_CommandLineProgram::badInput_data()
         << out;
 
     // The outputs.
-    QTest::newRow("outputs exist") << QStringList { i, papy, focal, mm, shots, three, o, out } << 1
-                                   << QStringLiteral("%1 exists; give --force to replace it")
-                                          .arg(project)
-                                   << out;
-    QTest::newRow("output folder is a file")
-        << importWith(shots, three) .mid(0, 7) + QStringList { o, path(QStringLiteral("three/P1.jpg")) }
-        << 1
-        << QStringLiteral("the output folder %1 is a file").arg(path(QStringLiteral("three/P1.jpg")))
-        << three;
+    QTest::newRow("outputs exist")
+        << QStringList { i, papy, focal, mm, shots, three, o, out } << 1
+        << QStringLiteral("%1 exists; give --force to replace it").arg(project) << out;
+    QTest::newRow("output folder is a file") << importWith(shots, three).mid(0, 7)
+            + QStringList { o, path(QStringLiteral("three/P1.jpg")) }
+                                             << 1
+                                             << QStringLiteral("the output folder %1 is a file")
+                                                    .arg(path(QStringLiteral("three/P1.jpg")))
+                                             << three;
     QTest::newRow("output folder read-only")
         << importWith(shots, three).mid(0, 7) + QStringList { o, path(QStringLiteral("read-only")) }
-        << 1
-        << QStringLiteral("the output folder %1 is").arg(path(QStringLiteral("read-only")))
+        << 1 << QStringLiteral("the output folder %1 is").arg(path(QStringLiteral("read-only")))
         << path(QStringLiteral("read-only"));
-    QTest::newRow("panorama exists") << QStringList { s, tools, path(QStringLiteral("tools/good")),
-        project } << 1
-                                     << QStringLiteral("%1 exists; give --force to replace it")
-                                            .arg(path(QStringLiteral("out/three-shots.tif")))
-                                     << out;
+    QTest::newRow("panorama exists")
+        << QStringList { s, tools, path(QStringLiteral("tools/good")), project } << 1
+        << QStringLiteral("%1 exists; give --force to replace it")
+               .arg(path(QStringLiteral("out/three-shots.tif")))
+        << out;
     QTest::newRow("panorama replaces a photograph")
         << QStringList { s, force, o, path(QStringLiteral("three/P1.jpg")), project } << 2
         << QStringLiteral("the panorama %1 would replace the input")
@@ -497,12 +498,12 @@ void tst_CommandLineProgram::badInput_data()
         << QStringLiteral("Hugin's program enblend is not found in %1 (Debian package enblend)")
                .arg(path(QStringLiteral("tools/no-enblend")))
         << out;
-    QTest::newRow("a tool fails")
-        << QStringList { s, force, tools, path(QStringLiteral("tools/cpfind-fails")), project }
-        << 3 << QStringLiteral("step 1/7 (cpfind) failed: cpfind exit code 3") << out;
+    QTest::newRow("a tool fails") << QStringList { s, force, tools,
+        path(QStringLiteral("tools/cpfind-fails")),
+        project } << 3 << QStringLiteral("step 1/7 (cpfind) failed: cpfind exit code 3")
+                                  << out;
     QTest::newRow("a tool's log holds NUL bytes")
-        << QStringList { s, force, tools, path(QStringLiteral("tools/enblend-nul")), project }
-        << 3
+        << QStringList { s, force, tools, path(QStringLiteral("tools/enblend-nul")), project } << 3
         << QStringLiteral("| progress 50% | enblend: cannot write the output: disk gone; log: ")
         << out;
 
@@ -628,8 +629,8 @@ void tst_CommandLineProgram::fullDisk()
     const QMap<QString, QByteArray> full = snapshot(folder);
     const Run run = panohead({ QStringLiteral("import"), QStringLiteral("papywizard"),
         QStringLiteral("--focal"), QStringLiteral("50"), QStringLiteral("--force"),
-        data(QStringLiteral("three-shots.xml")), path(QStringLiteral("three")), QStringLiteral("-o"),
-        folder });
+        data(QStringLiteral("three-shots.xml")), path(QStringLiteral("three")),
+        QStringLiteral("-o"), folder });
     ::chmod(QFile::encodeName(folder).constData(), 0755);
     QCOMPARE(run.code, 1);
     QVERIFY2(run.err.contains(mounted ? QStringLiteral("No space left on device")
@@ -650,8 +651,8 @@ void tst_CommandLineProgram::lockedFolder()
     const QMap<QString, QByteArray> before = snapshot(folder);
     const QStringList import = { QStringLiteral("import"), QStringLiteral("papywizard"),
         QStringLiteral("--focal"), QStringLiteral("50"), QStringLiteral("--force"),
-        data(QStringLiteral("three-shots.xml")), path(QStringLiteral("three")), QStringLiteral("-o"),
-        folder };
+        data(QStringLiteral("three-shots.xml")), path(QStringLiteral("three")),
+        QStringLiteral("-o"), folder };
     const Run refused = panohead(import);
     QCOMPARE(refused.code, 1);
     QCOMPARE(refused.err,
@@ -664,6 +665,23 @@ void tst_CommandLineProgram::lockedFolder()
     const Run done = panohead(import);
     QVERIFY2(done.code == 0, qPrintable(done.err));
     QVERIFY(!QFileInfo::exists(QDir(folder).filePath(QStringLiteral(".panohead.lock"))));
+}
+
+void tst_CommandLineProgram::layoutPictureIsNoPhotograph()
+{
+    // Imported into the photographs' own folder, twice: the layout picture
+    // the first import left there is not taken for a photograph.
+    const QString folder = path(QStringLiteral("own-folder"));
+    QVERIFY(savePictures(folder, 4));
+    const QStringList import = { QStringLiteral("import"), QStringLiteral("gigapan"),
+        QStringLiteral("--focal"), QStringLiteral("35"), QStringLiteral("--force"), folder,
+        QStringLiteral("-o"), folder };
+    for (int run = 0; run < 2; ++run) {
+        const Run r = panohead(import);
+        QVERIFY2(r.code == 0, qPrintable(r.err));
+        QVERIFY2(r.out.contains(QStringLiteral("4 stacks, 4 photographs,")), qPrintable(r.out));
+        QVERIFY(QFileInfo(QDir(folder).filePath(QStringLiteral("panorama-layout.png"))).isFile());
+    }
 }
 
 void tst_CommandLineProgram::batch()
@@ -689,7 +707,7 @@ void tst_CommandLineProgram::batch()
                                              "shoot     result  exit  reason\n"
                                              "a-good    done    0\n"
                                              "b-broken  failed  1     ")
-                                  + reason + QStringLiteral("\nc-good    done    0\n")),
+                 + reason + QStringLiteral("\nc-good    done    0\n")),
         qPrintable(run.out));
     for (const QString& name : { names[0], names[2] })
         QVERIFY(QFileInfo(shoots.filePath(name + QStringLiteral("/three-shots.tif"))).isFile());
