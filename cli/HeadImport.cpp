@@ -8,8 +8,8 @@
 #include "GigapanToSPP.h"
 #include "HuginProjectWriter.h"
 #include "ImageDefinition.h"
-#include "PhotoFocal.h"
 #include "PhotoFiles.h"
+#include "PhotoFocal.h"
 #include "PhotoReader.h"
 #include "VRDrive2ToSPP.h"
 
@@ -67,8 +67,8 @@ QString lensName(LensModel lens)
 /// pictures in name order; a file that cannot be a photograph is named.
 Failure collectPhotos(const ImportRequest& r, QStringList* photos)
 {
-    return PhotoFiles::collect(r.photoArguments, HeadImport::PhotoSuffixes,
-        r.photoOrder == QLatin1String("name"), photos);
+    return PhotoFiles::collect(
+        r.photoArguments, HeadImport::PhotoSuffixes, r.photoOrder == QLatin1String("name"), photos);
 }
 
 Failure checkRecordCount(int shots, int photos)
