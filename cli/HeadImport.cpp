@@ -8,6 +8,7 @@
 #include "GigapanToSPP.h"
 #include "HuginProjectWriter.h"
 #include "ImageDefinition.h"
+#include "PhotoFiles.h"
 #include "PhotoFocal.h"
 #include "PhotoReader.h"
 #include "RecordShapes.h"
@@ -65,33 +66,11 @@ QString lensName(LensModel lens)
 }
 
 /// The photographs named by the arguments: files as given, folders by their
-/// pictures in name order.
+/// pictures in name order; a file that cannot be a photograph is named.
 Failure collectPhotos(const ImportRequest& r, QStringList* photos)
 {
-    for (const QString& argument : r.photoArguments) {
-        const QFileInfo info(argument);
-        if (info.isDir()) {
-            QStringList inFolder;
-            const QDir folder(argument);
-            for (const QFileInfo& entry :
-                folder.entryInfoList(QDir::Files | QDir::Readable, QDir::Name)) {
-                if (HeadImport::PhotoSuffixes.contains(entry.suffix().toLower()))
-                    inFolder << entry.absoluteFilePath();
-            }
-            if (inFolder.isEmpty())
-                return QStringLiteral("no photographs in the folder %1").arg(argument);
-            inFolder.sort(Qt::CaseSensitive);
-            *photos << inFolder;
-        } else if (info.exists()) {
-            *photos << info.absoluteFilePath();
-        } else {
-            return QStringLiteral("no such photograph or folder: %1").arg(argument);
-        }
-    }
-    photos->removeDuplicates();
-    if (r.photoOrder == QLatin1String("name"))
-        photos->sort(Qt::CaseSensitive);
-    return {};
+    return PhotoFiles::collect(
+        r.photoArguments, HeadImport::PhotoSuffixes, r.photoOrder == QLatin1String("name"), photos);
 }
 
 Failure checkRecordCount(int shots, int photos)
@@ -180,6 +159,11 @@ Failure chooseRecordedLens(const ImportRequest& r, const Photos& photos, double 
         if (!(preset.focal > 0.0))
             return QStringLiteral("no focal length: neither the photographs nor the record give "
                                   "one; use --focal");
+        if (!preset.fromPhotos
+            && !(preset.focal >= FormLimits::MinFocal && preset.focal <= FormLimits::MaxFocal))
+            return QStringLiteral("the record's focal length %1 mm is outside 1 to 10000 mm; use "
+                                  "--focal")
+                .arg(preset.focal);
         focal = preset.focal;
         chosen->source = preset.fromPhotos ? QStringLiteral("from the photographs")
                                            : QStringLiteral("from the record");
@@ -191,6 +175,10 @@ Failure chooseRecordedLens(const ImportRequest& r, const Photos& photos, double 
     } else if (r.focal == QLatin1String("record")) {
         if (!(recordFocal > 0.0))
             return QStringLiteral("the record gives no focal length; use --focal");
+        if (!(recordFocal >= FormLimits::MinFocal && recordFocal <= FormLimits::MaxFocal))
+            return QStringLiteral("the record's focal length %1 mm is outside 1 to 10000 mm; use "
+                                  "--focal")
+                .arg(recordFocal);
         focal = recordFocal;
         chosen->source = QStringLiteral("from the record");
     } else {

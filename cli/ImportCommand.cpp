@@ -1,19 +1,27 @@
 #include "ImportCommand.h"
 
 #include "DescriptionJson.h"
+#include "ExitCode.h"
 #include "FormLimits.h"
 #include "HeadImport.h"
 #include "HuginProjectWriter.h"
 #include "LayoutPicture.h"
+#include "OutputFiles.h"
+#include "PhotoFiles.h"
 #include "StitchCommand.h"
+#include "StopSignals.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QXmlStreamReader>
+
+#include <cmath>
 
 namespace {
 
-/// A failure of the work (exit code 1) or of the command line (2).
+/// A failure: its exit code (ExitCode) and one line.
 struct Failure
 {
     int code = 0;
@@ -27,12 +35,13 @@ struct Choices
     QString outputFolder;
     QString name;
     bool stitch = false;
+    bool force = false;
     QString tools;
 };
 
 Failure usage(const QString& message)
 {
-    return { 2, message };
+    return { ExitCode::UsageError, message };
 }
 
 bool parseInteger(const QString& text, int minimum, int maximum, int* value)
@@ -82,9 +91,10 @@ Failure parseChoices(const QStringList& arguments, Choices* c, bool* helpOnly)
         QStringLiteral("stack-linking"), QString(), QStringLiteral("kind"));
     const QCommandLineOption stitch(QStringLiteral("stitch"), QString());
     const QCommandLineOption tools(QStringLiteral("tools"), QString(), QStringLiteral("folder"));
+    const QCommandLineOption force(QStringLiteral("force"), QString());
     parser.addOptions({ help, output, name, photoOrder, focal, lens, invert, rotate, outputMode,
         rows, bracket, skip, order, overlap, force360, noAuto, clean, skipOptimization, noRecorded,
-        level, stack, stitch, tools });
+        level, stack, stitch, tools, force });
     if (!parser.parse(QStringList { QStringLiteral("panohead-import") } + arguments))
         return usage(parser.errorText());
     if (parser.isSet(help)) {
@@ -247,22 +257,119 @@ Failure parseChoices(const QStringList& arguments, Choices* c, bool* helpOnly)
     // As on the pages: linking all levels brings control points inside stacks.
     r.options.ChooseLevelLinking(r.options.levelLinking);
     c->stitch = parser.isSet(stitch);
+    c->force = parser.isSet(force);
     c->tools = parser.value(tools);
     if (parser.isSet(tools) && !c->stitch)
         return usage(QStringLiteral("--tools goes with --stitch"));
     return {};
 }
 
+constexpr qint64 MaxRecordBytes = 16 * 1024 * 1024;
+
+Failure inputError(const QString& message)
+{
+    return { ExitCode::InputError, message };
+}
+
+/// The root element of an XML record; empty when the text is not XML.
+QString rootElement(const QByteArray& text)
+{
+    QXmlStreamReader reader(text);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement)
+            return reader.name().toString();
+    }
+    return QString();
+}
+
+/// What can be told of the record before its head's reader reads it: that
+/// it is a file that can be read, of a sane size, text, and for this head.
+Failure checkRecord(Head head, const QString& path)
+{
+    const QFileInfo info(path);
+    const QString name = QDir::toNativeSeparators(path);
+    if (!info.exists() && !info.isSymLink())
+        return inputError(QStringLiteral("cannot read the record %1: no such file").arg(path));
+    const QString problem = PhotoFiles::problem(path);
+    if (problem == QLatin1String("a folder"))
+        return inputError(QStringLiteral("the record %1 is a folder, not a file").arg(name));
+    if (problem == QLatin1String("empty (0 bytes)"))
+        return inputError(QStringLiteral("the record %1 is empty").arg(name));
+    if (!problem.isEmpty())
+        return inputError(QStringLiteral("cannot read the record %1: %2").arg(name, problem));
+    if (info.size() > MaxRecordBytes)
+        return inputError(
+            QStringLiteral("the record %1 is larger than 16 MiB: not a head's record").arg(name));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return inputError(
+            QStringLiteral("cannot read the record %1: %2").arg(name, file.errorString()));
+    const QByteArray text = file.readAll();
+    if (text.contains('\0'))
+        return inputError(
+            QStringLiteral("the record %1 holds binary data: not a head's record").arg(name));
+    const QString root = rootElement(text);
+    const bool claussScript = text.contains("op_shoot");
+    // The XML heads read each other's records; a shooting script and an XML
+    // record are told apart.
+    if (HasXmlRecord(head) && root.isEmpty() && claussScript)
+        return inputError(QStringLiteral("the record %1 is a Clauss shooting script, not an XML "
+                                         "record (use the head clauss)")
+                              .arg(name));
+    if (head == Head::Clauss && !root.isEmpty() && !claussScript)
+        return inputError(QStringLiteral("the record %1 is an XML record, not a Clauss shooting "
+                                         "script (use the head papywizard or vrdrive2)")
+                              .arg(name));
+    return {};
+}
+
+/// What the converter made, checked before anything is written: finite
+/// angles and photographs of one size.
+Failure checkImported(const Choices& c, const ImportOutcome& imported)
+{
+    const ExportInput& input = imported.input;
+    for (int k = 0; k < input.positions.size(); ++k) {
+        const StackPosition& p = input.positions[k];
+        if (!std::isfinite(p.yaw) || !std::isfinite(p.pitch) || !std::isfinite(p.roll))
+            return inputError(
+                QStringLiteral("%1 gives stack %2 an angle that is not a finite number")
+                    .arg(HasRecord(c.request.head)
+                            ? QStringLiteral("the record %1").arg(c.request.record)
+                            : QStringLiteral("the grid"))
+                    .arg(k));
+    }
+    QString first;
+    QSize size;
+    for (const QStringList& stack : input.panorama.m_stacks) {
+        for (const QString& photo : stack) {
+            const QSize s = input.images.value(photo).pixelSize;
+            if (first.isEmpty()) {
+                first = photo;
+                size = s;
+            } else if (s != size) {
+                return inputError(
+                    QStringLiteral("the photographs are not all of one size: %1 is %2 × %3 "
+                                   "pixels, %4 is %5 × %6")
+                        .arg(QFileInfo(first).fileName())
+                        .arg(size.width())
+                        .arg(size.height())
+                        .arg(QFileInfo(photo).fileName())
+                        .arg(s.width())
+                        .arg(s.height()));
+            }
+        }
+    }
+    if (!(input.focalLength >= FormLimits::MinFocal && input.focalLength <= FormLimits::MaxFocal))
+        return inputError(QStringLiteral("the focal length %1 mm is outside 1 to 10000 mm; use "
+                                         "--focal")
+                              .arg(input.focalLength));
+    return {};
+}
+
 Failure runImport(const Choices& c, Console& console)
 {
-    ImportOutcome imported;
-    QString error;
-    if (!HeadImport::Run(c.request, console, &imported, &error))
-        return { 1, error };
-
-    if (!QDir().mkpath(c.outputFolder))
-        return { 1, QStringLiteral("cannot create the output folder %1").arg(c.outputFolder) };
-    const QDir folder(QFileInfo(c.outputFolder).absoluteFilePath());
+    const QString folderPath = QFileInfo(c.outputFolder).absoluteFilePath();
+    const QDir folder(folderPath);
     QString name = c.name;
     if (name.isEmpty())
         name = HasRecord(c.request.head) ? QFileInfo(c.request.record).completeBaseName()
@@ -270,12 +377,93 @@ Failure runImport(const Choices& c, Console& console)
     const QString project = folder.filePath(name + QStringLiteral(".pto"));
     const QString description = folder.filePath(name + QStringLiteral(".json"));
     const QString layout = folder.filePath(name + QStringLiteral("-layout.png"));
-    if (!HuginProjectWriter(imported.input).write(project, &error))
-        return { 1, error };
-    if (!DescriptionJson::write(imported.input.panorama, description, &error))
-        return { 1, error };
-    if (!LayoutPicture::write(imported.input, layout, &error))
-        return { 1, error };
+    const QStringList outputs = { project, description, layout };
+
+    // Nothing is read or written before the command line is known to be sound.
+    QStringList inputs = c.request.photoArguments;
+    if (HasRecord(c.request.head))
+        inputs.prepend(c.request.record);
+    for (const QString& output : outputs) {
+        for (const QString& input : inputs) {
+            if (OutputFiles::sameFile(output, input))
+                return usage(QStringLiteral("the output %1 is one of the inputs (%2)")
+                                 .arg(QDir::toNativeSeparators(output), input));
+        }
+    }
+    QString error;
+    if (!OutputFiles::checkFolder(c.outputFolder, QStringLiteral("output folder"), &error))
+        return inputError(error);
+    const QString present = OutputFiles::existing(outputs, c.force);
+    if (!present.isEmpty())
+        return inputError(OutputFiles::existsMessage(present));
+    if (HasRecord(c.request.head)) {
+        const Failure f = checkRecord(c.request.head, c.request.record);
+        if (f.code)
+            return f;
+    }
+
+    // Reading leaves nothing on disk: a signal may end the program at once.
+    ImportOutcome imported;
+    StopSignals::setExitAtOnce("panohead import: stopped\n");
+    const bool read = HeadImport::Run(c.request, console, &imported, &error);
+    StopSignals::clearExitAtOnce();
+    if (!read)
+        return inputError(error);
+    Failure f = checkImported(c, imported);
+    if (f.code)
+        return f;
+
+    QString projectText;
+    if (!HuginProjectWriter(imported.input).text(folderPath, &projectText, &error))
+        return inputError(error);
+    const QByteArray projectBytes = projectText.toUtf8();
+    const QByteArray descriptionBytes
+        = QJsonDocument(DescriptionJson::toJson(imported.input.panorama))
+              .toJson(QJsonDocument::Indented);
+    const QImage picture = LayoutPicture::render(imported.input);
+    if (picture.isNull())
+        return inputError(QStringLiteral("the panorama has no stack to draw"));
+
+    const bool folderExisted = QFileInfo(folderPath).isDir();
+    if (!QDir().mkpath(folderPath))
+        return inputError(QStringLiteral("cannot create the output folder %1").arg(c.outputFolder));
+    // A failed or stopped import leaves no empty folder of its own behind.
+    struct RemoveIfEmpty
+    {
+        QString folder;
+        bool keep;
+        ~RemoveIfEmpty()
+        {
+            if (!keep)
+                QDir().rmdir(folder);
+        }
+    } created { folderPath, folderExisted };
+    {
+        OutputFiles::FolderLock lock;
+        if (!lock.lock(folderPath, &error))
+            return inputError(error);
+        // Another run may have finished in this folder while this one read.
+        const QString written = OutputFiles::existing(outputs, c.force);
+        if (!written.isEmpty())
+            return inputError(OutputFiles::existsMessage(written));
+        OutputFiles::FileSet files;
+        const auto bytes = [](const QByteArray& data) {
+            return [data](QIODevice* device) { return device->write(data) == data.size(); };
+        };
+        if (!files.add(project, bytes(projectBytes), &error)
+            || !files.add(description, bytes(descriptionBytes), &error)
+            || !files.add(
+                layout, [&picture](QIODevice* device) { return picture.save(device, "PNG"); },
+                &error))
+            return inputError(error);
+        if (StopSignals::received()) {
+            files.discard();
+            return { StopSignals::exitCode(), QStringLiteral("stopped") };
+        }
+        if (!files.commit(&error))
+            return inputError(error);
+        created.keep = true;
+    }
 
     const StructuredPanoramaProperties& p = imported.input.panorama;
     console.out << imported.summary << '\n'
@@ -296,8 +484,9 @@ Failure runImport(const Choices& c, Console& console)
         options.project = project;
         options.description = description;
         options.tools = c.tools;
-        if (StitchCommand::stitch(options, console) != 0)
-            return { 1, QString() };
+        const int code = StitchCommand::stitch(options, c.force, console);
+        if (code != ExitCode::Done)
+            return { code, QString() };
     }
     return {};
 }
@@ -306,75 +495,89 @@ Failure runImport(const Choices& c, Console& console)
 
 QString ImportCommand::help()
 {
-    return QStringLiteral(
-        "Usage: panohead import <head> [options] [<record>] <photographs or folders>...\n"
-        "\n"
-        "Turns a motorised head's record and its photographs into a Hugin project\n"
-        "(<name>.pto), the panorama description (<name>.json) and a layout picture\n"
-        "(<name>-layout.png).\n"
-        "\n"
-        "Heads and what they need:\n"
-        "  papywizard <record.xml> <photos>   Merlin/Orion heads (Papywizard XML record)\n"
-        "  vrdrive2 <preset.xml> <photos>     VR Drive 2 head (its XML preset)\n"
-        "  clauss <script.txt> <photos>       Clauss Rodeon head (its shooting script)\n"
-        "  gigapan <photos>                   Gigapan head (no record: give the grid)\n"
-        "\n"
-        "Photographs are files or folders (their .jpg, .jpeg, .tif, .tiff and .png\n"
-        "files), taken in shooting order.\n"
-        "\n"
-        "Options:\n"
-        "  -o, --output <folder>     where to write (default: the current folder)\n"
-        "  --name <name>             base name of the files (default: the record's name,\n"
-        "                            \"panorama\" for gigapan)\n"
-        "  --photo-order <order>     name (default), given, or time (EXIF shooting time)\n"
-        "  --focal <focal>           millimetres (full-frame equivalent), \"images\" (the\n"
-        "                            photographs' EXIF data) or \"record\" (papywizard,\n"
-        "                            vrdrive2); default: the photographs', else the record's.\n"
-        "                            The photographs' focal length is the mean of those\n"
-        "                            that give one (their 35 mm equivalent where known);\n"
-        "                            the others are named. (The import pages count a\n"
-        "                            photograph without one as 0.)\n"
-        "  --lens <lens>             standard, fisheye, images or record (default: the\n"
-        "                            photographs' when they give a focal length, else\n"
-        "                            the record's)\n"
-        "  --invert-pitch            \"Inverse Y coordinates\" (papywizard, vrdrive2, clauss)\n"
-        "  --rotate <degrees>        turn every shot by a multiple of 90 degrees\n"
-        "                            (papywizard, vrdrive2)\n"
-        "  --output-mode <mode>      tonemapped (default) or hdr (vrdrive2)\n"
-        "  --rows <n>                grid rows (gigapan; default: as the page proposes)\n"
-        "  --bracket <n>             photographs per position (gigapan: default 1;\n"
-        "                            papywizard, vrdrive2: replaces the record's)\n"
-        "  --skip <n>                photographs to ignore at the start (gigapan)\n"
-        "  --order <order>           columns (default), rows-down, rows-up, columns-left,\n"
-        "                            serpentine, or 0 to 4 (gigapan)\n"
-        "  --overlap <percent>       overlap between neighbours, 5 to 100 (gigapan; 40)\n"
-        "  --force-360               the grid closes a full circle (gigapan)\n"
-        "  --no-auto-detection       clear \"Auto detection\"\n"
-        "  --clean-wrong-links       set \"Clean wrong link\"\n"
-        "  --skip-optimization       set \"Skip optimization\"\n"
-        "  --no-recorded-location    clear \"Use recorded location\" (\"Guided\n"
-        "                            optimization\" for clauss)\n"
-        "  --level-linking <level>   detect links in the reference level (default) or all\n"
-        "                            stack levels (not clauss)\n"
-        "  --stack-linking <kind>    hard links (default) or points inside a stack (not\n"
-        "                            clauss)\n"
-        "  --stitch                  stitch the panorama right away (see panohead stitch)\n"
-        "  --tools <folder>          with --stitch: where Hugin's programs are\n"
-        "  -h, --help                this text\n"
-        "\n"
-        "Papywizard and VR Drive 2 records as head software writes them:\n"
-        "  - without a bracketing element, the shots' bracket (or num) numbers,\n"
-        "    1...n at every position, give the bracketing; numbers that do not repeat\n"
-        "    so are an error naming the first shot out of step (--bracket decides).\n"
-        "  - a record that ends early (a run cut short) is read up to its last\n"
-        "    complete shot, less an incomplete last position; the photographs after\n"
-        "    those shots are named and not used.\n"
-        "  - a portrait record (cameraOrientation portrait, or a roll on each\n"
-        "    position) turns the photographs that do not already stand in portrait,\n"
-        "    as stored or by their orientation tag.\n"
-        "  (The import pages read these records as the complete shape only.)\n"
-        "\n"
-        "Exit code: 0 done, 1 the import failed, 2 the command line is wrong.\n");
+    return QString::fromUtf8(
+               "Usage: panohead import <head> [options] [<record>] <photographs or folders>...\n"
+               "\n"
+               "Turns a motorised head's record and its photographs into a Hugin project\n"
+               "(<name>.pto), the panorama description (<name>.json) and a layout picture\n"
+               "(<name>-layout.png).\n"
+               "\n"
+               "Heads and what they need:\n"
+               "  papywizard <record.xml> <photos>   Merlin/Orion heads (Papywizard XML record)\n"
+               "  vrdrive2 <preset.xml> <photos>     VR Drive 2 head (its XML preset)\n"
+               "  clauss <script.txt> <photos>       Clauss Rodeon head (its shooting script)\n"
+               "  gigapan <photos>                   Gigapan head (no record: give the grid)\n"
+               "\n"
+               "Photographs are files or folders (their .jpg, .jpeg, .tif, .tiff and .png\n"
+               "files), taken in shooting order.\n"
+               "\n"
+               "Options:\n"
+               "  -o, --output <folder>     where to write (default: the current folder)\n"
+               "  --name <name>             base name of the files (default: the record's name,\n"
+               "                            \"panorama\" for gigapan)\n"
+               "  --photo-order <order>     name (default), given, or time (EXIF shooting time)\n"
+               "  --focal <focal>           millimetres (full-frame equivalent), \"images\" (the\n"
+               "                            photographs' EXIF data) or \"record\" (papywizard,\n"
+               "                            vrdrive2); default: the photographs', else the "
+               "record's.\n"
+               "                            The photographs' focal length is the mean of those\n"
+               "                            that give one (their 35 mm equivalent where known);\n"
+               "                            the others are named. (The import pages count a\n"
+               "                            photograph without one as 0.)\n"
+               "  --lens <lens>             standard, fisheye, images or record (default: the\n"
+               "                            photographs' when they give a focal length, else\n"
+               "                            the record's)\n"
+               "  --invert-pitch            \"Inverse Y coordinates\" (papywizard, vrdrive2, "
+               "clauss)\n"
+               "  --rotate <degrees>        turn every shot by a multiple of 90 degrees\n"
+               "                            (papywizard, vrdrive2)\n"
+               "  --output-mode <mode>      tonemapped (default) or hdr (vrdrive2)\n"
+               "  --rows <n>                grid rows (gigapan; default: as the page proposes)\n"
+               "  --bracket <n>             photographs per position (gigapan: default 1;\n"
+               "                            papywizard, vrdrive2: replaces the record's)\n"
+               "  --skip <n>                photographs to ignore at the start (gigapan)\n"
+               "  --order <order>           columns (default), rows-down, rows-up, columns-left,\n"
+               "                            serpentine, or 0 to 4 (gigapan)\n"
+               "  --overlap <percent>       overlap between neighbours, 5 to 100 (gigapan; 40)\n"
+               "  --force-360               the grid closes a full circle (gigapan)\n"
+               "  --no-auto-detection       clear \"Auto detection\"\n"
+               "  --clean-wrong-links       set \"Clean wrong link\"\n"
+               "  --skip-optimization       set \"Skip optimization\"\n"
+               "  --no-recorded-location    clear \"Use recorded location\" (\"Guided\n"
+               "                            optimization\" for clauss)\n"
+               "  --level-linking <level>   detect links in the reference level (default) or all\n"
+               "                            stack levels (not clauss)\n"
+               "  --stack-linking <kind>    hard links (default) or points inside a stack (not\n"
+               "                            clauss)\n"
+               "  --stitch                  stitch the panorama right away (see panohead stitch)\n"
+               "  --tools <folder>          with --stitch: where Hugin's programs are\n"
+               "  --force                   replace the project, description, layout picture\n"
+               "                            (and with --stitch the panorama) when they exist;\n"
+               "                            without it an import refuses to replace them\n"
+               "  -h, --help                this text\n"
+               "\n"
+               "The three files are written as a set: each to a temporary file beside it,\n"
+               "then all renamed into place, so a failed or stopped import leaves the\n"
+               "previous set as it was. While it writes, an import holds the lock file\n"
+               ".panohead.lock in the output folder; a second run into the same folder is\n"
+               "refused. Ctrl-C or SIGTERM stop it; nothing is left half-written.\n"
+               "In a folder of photographs, files named <name>-layout.png are layout\n"
+               "pictures, never photographs; a dangling link, a link loop, a FIFO, an empty\n"
+               "or unreadable file among the photographs is named and refused.\n"
+               "\n"
+               "Papywizard and VR Drive 2 records as head software writes them:\n"
+               "  - without a bracketing element, the shots' bracket (or num) numbers,\n"
+               "    1...n at every position, give the bracketing; numbers that do not repeat\n"
+               "    so are an error naming the first shot out of step (--bracket decides).\n"
+               "  - a record that ends early (a run cut short) is read up to its last\n"
+               "    complete shot, less an incomplete last position; the photographs after\n"
+               "    those shots are named and not used.\n"
+               "  - a portrait record (cameraOrientation portrait, or a roll on each\n"
+               "    position) turns the photographs that do not already stand in portrait,\n"
+               "    as stored or by their orientation tag.\n"
+               "  (The import pages read these records as the complete shape only.)\n"
+               "\n")
+        + QLatin1String(ExitCode::Table());
 }
 
 int ImportCommand::run(const QStringList& arguments, Console& console)
@@ -391,7 +594,8 @@ int ImportCommand::run(const QStringList& arguments, Console& console)
         f = runImport(choices, console);
     if (f.code && !f.message.isEmpty()) {
         console.err << "panohead import: " << f.message
-                    << (f.code == 2 ? " (see panohead import --help)" : "") << '\n';
+                    << (f.code == ExitCode::UsageError ? " (see panohead import --help)" : "")
+                    << '\n';
         console.err.flush();
     }
     return f.code;

@@ -1,10 +1,17 @@
 #include "StitchCommand.h"
 
+#include "DescriptionJson.h"
+#include "ExitCode.h"
+#include "OutputFiles.h"
+#include "PhotoFiles.h"
+#include "PtoProject.h"
+#include "StopSignals.h"
+#include "ToolRunner.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-
-#include <atomic>
+#include <QRegularExpression>
 
 #include <signal.h>
 
@@ -46,86 +53,182 @@ void print(Console& console, const StitchPipeline::StepEvent& event)
     console.out.flush();
 }
 
-/// The pipeline that Ctrl-C and SIGTERM stop while it runs.
-std::atomic<StitchPipeline*> s_running { nullptr };
+/// A project that "panohead import" wrote starts with this comment line,
+/// followed by its numbers of stacks and images.
+const QRegularExpression ProjectSignature(
+    QStringLiteral("^# written by ZPanoHead: (\\d+) stacks, (\\d+) images"),
+    QRegularExpression::MultilineOption);
 
-extern "C" void stopRunningStitch(int)
+struct Failure
 {
-    if (StitchPipeline* pipeline = s_running.load())
-        pipeline->cancel();
+    int code = ExitCode::Done;
+    QString message;
+};
+
+Failure inputError(const QString& message)
+{
+    return { ExitCode::InputError, message };
 }
 
-/// While it lives, SIGINT and SIGTERM cancel pipeline instead of ending the
-/// program: the programs it runs sit in process groups of their own, out of
-/// the terminal's reach, and are ended by the pipeline.
-class StopOnSignals
+QString absolute(const QString& path, const QString& folder)
 {
-public:
-    explicit StopOnSignals(StitchPipeline* pipeline)
-    {
-        s_running.store(pipeline);
-        struct sigaction action = {};
-        action.sa_handler = stopRunningStitch;
-        sigemptyset(&action.sa_mask);
-        action.sa_flags = SA_RESTART;
-        sigaction(SIGINT, &action, &m_int);
-        sigaction(SIGTERM, &action, &m_term);
-    }
-    ~StopOnSignals()
-    {
-        sigaction(SIGINT, &m_int, nullptr);
-        sigaction(SIGTERM, &m_term, nullptr);
-        s_running.store(nullptr);
-    }
-    StopOnSignals(const StopOnSignals&) = delete;
-    StopOnSignals& operator=(const StopOnSignals&) = delete;
+    return QFileInfo(QDir::isAbsolutePath(path) ? path : QDir(folder).filePath(path))
+        .absoluteFilePath();
+}
 
-private:
-    struct sigaction m_int = {};
-    struct sigaction m_term = {};
-};
+QString withSuffix(const QString& project, const QString& suffix)
+{
+    const QFileInfo info(project);
+    return info.absoluteDir().filePath(info.completeBaseName() + suffix);
+}
+
+/// Everything the stitch can check before a tool runs: the project is ours
+/// and fits its description, its photographs are there, the panorama can be
+/// written and is none of the inputs, Hugin's programs are found.
+Failure check(const StitchCommand::Options& o, bool force, QString* panorama)
+{
+    const QFileInfo projectInfo(o.project);
+    if (!projectInfo.isFile())
+        return inputError(projectInfo.isDir()
+                ? QStringLiteral("the project %1 is a folder, not a file").arg(o.project)
+                : QStringLiteral("cannot read the project %1: no such file").arg(o.project));
+    const QString projectPath = projectInfo.absoluteFilePath();
+    const QString folder = projectInfo.absolutePath();
+    QFile file(projectPath);
+    if (!file.open(QIODevice::ReadOnly))
+        return inputError(
+            QStringLiteral("cannot read the project %1: %2").arg(o.project, file.errorString()));
+    const QByteArray head = file.read(4096);
+    file.close();
+    const QRegularExpressionMatch signature = ProjectSignature.match(QString::fromUtf8(head));
+    if (!signature.hasMatch())
+        return inputError(QStringLiteral("the project %1 was not written by panohead import "
+                                         "(no \"# written by ZPanoHead\" line); only its "
+                                         "projects can be stitched")
+                              .arg(o.project));
+    PtoProject project;
+    QString error;
+    if (!project.read(projectPath, &error))
+        return inputError(error);
+    const QString descriptionPath = o.description.isEmpty()
+        ? withSuffix(projectPath, QStringLiteral(".json"))
+        : QFileInfo(o.description).absoluteFilePath();
+    StructuredPanoramaProperties description;
+    if (!DescriptionJson::read(descriptionPath, &description, &error))
+        return inputError(error);
+    int described = 0;
+    for (const QStringList& stack : description.m_stacks)
+        described += stack.size();
+    const int stacks = signature.captured(1).toInt();
+    if (description.m_stacks.size() != stacks || described != project.imageCount())
+        return inputError(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
+                                         "fit the project %4 (%5 stacks, %6 images)")
+                              .arg(descriptionPath)
+                              .arg(description.m_stacks.size())
+                              .arg(described)
+                              .arg(o.project)
+                              .arg(stacks)
+                              .arg(project.imageCount()));
+    QStringList inputs = { projectPath, descriptionPath };
+    for (int i = 0; i < project.imageCount(); ++i) {
+        const QString photo = absolute(project.imageName(i), folder);
+        const QString problem = PhotoFiles::problem(photo);
+        if (!problem.isEmpty())
+            return inputError(QStringLiteral("the project's photograph %1 cannot be used: %2")
+                                  .arg(photo, problem));
+        inputs << photo;
+    }
+
+    // As the pipeline names it: an HDR panorama is OpenEXR unless -o says otherwise.
+    const bool hdr = o.mode == StitchPipeline::Output::Hdr
+        || (o.mode == StitchPipeline::Output::Automatic && description.m_outputMode == 3);
+    *panorama = o.output.isEmpty()
+        ? withSuffix(projectPath, hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"))
+        : QFileInfo(o.output).absoluteFilePath();
+    for (const QString& input : inputs) {
+        if (OutputFiles::sameFile(*panorama, input))
+            return { ExitCode::UsageError,
+                QStringLiteral("the panorama %1 would replace the input %2; choose another -o")
+                    .arg(QDir::toNativeSeparators(*panorama), input) };
+    }
+    const QString panoramaFolder = QFileInfo(*panorama).absolutePath();
+    if (!QFileInfo(panoramaFolder).isDir())
+        return inputError(QFileInfo::exists(panoramaFolder)
+                ? QStringLiteral("the panorama's folder %1 is a file").arg(panoramaFolder)
+                : QStringLiteral("the panorama's folder %1 does not exist").arg(panoramaFolder));
+    if (!OutputFiles::checkFolder(panoramaFolder, QStringLiteral("panorama's folder"), &error))
+        return inputError(error);
+    if (QFileInfo(*panorama).isDir())
+        return inputError(QStringLiteral("the panorama %1 is a folder").arg(*panorama));
+    const QString present = OutputFiles::existing({ *panorama }, force);
+    if (!present.isEmpty())
+        return inputError(OutputFiles::existsMessage(present));
+
+    const ToolRunner tools(o.tools);
+    for (const QString& tool : StitchPipeline::programs()) {
+        if (tools.program(tool).isEmpty())
+            return { ExitCode::ToolFailure,
+                QStringLiteral("Hugin's program %1 is not found in %2 (Debian package %3)")
+                    .arg(tool, o.tools.isEmpty() ? QStringLiteral("PATH") : o.tools,
+                        StitchCommand::package(tool)) };
+    }
+    return {};
+}
 
 } // namespace
 
+QString StitchCommand::package(const QString& tool)
+{
+    if (tool == QLatin1String("enblend") || tool == QLatin1String("enfuse"))
+        return tool;
+    return QStringLiteral("hugin-tools");
+}
+
 QString StitchCommand::help()
 {
-    return QStringLiteral(
-        "Usage: panohead stitch [options] <project.pto>\n"
-        "\n"
-        "Stitches a project written by \"panohead import\" with Hugin's tools: cpfind\n"
-        "finds control points (guided by the recorded positions), the points between\n"
-        "stacks that no authorised link joins are removed, cpclean removes wrong\n"
-        "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
-        "crop, nona remaps the pictures, enfuse fuses the exposures of every stack and\n"
-        "enblend blends the stacks. With --hdr (the default when the description's\n"
-        "output mode is 32-bit HDR) each stack is merged to linear floating point\n"
-        "(hugin_hdrmerge) and blended into an OpenEXR or 32-bit float TIFF panorama,\n"
-        "with the fused panorama beside it as a JPEG preview.\n"
-        "The description's options are honoured: without \"Auto detection\" no points\n"
-        "are looked for and the recorded positions are used as they are; \"Skip\n"
-        "optimization\" keeps the positions; without \"Use recorded location\" cpfind\n"
-        "tries every pair (--multirow); linking all stack levels, or control points\n"
-        "inside stacks, looks for points in every picture and lets the optimiser place\n"
-        "each picture of a stack; \"Clean wrong link\" removes the points of a link\n"
-        "that disagree with the optimised positions and places the pictures again.\n"
-        "\n"
-        "Options:\n"
-        "  --description <file.json> the panorama description (default: beside the\n"
-        "                            project, same name)\n"
-        "  -o, --output <file>       the panorama, .tif or .jpg; with --hdr .exr or .tif\n"
-        "                            (default: <name>.tif, with --hdr <name>.exr,\n"
-        "                            beside the project)\n"
-        "  --hdr                     an HDR panorama and a fused JPEG preview\n"
-        "  --work-folder <folder>    intermediate projects, pictures and the log\n"
-        "                            (default: <name>.stitch beside the project)\n"
-        "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
-        "  --timeout <seconds>       longest run of any one program (default 900)\n"
-        "  -h, --help                this text\n"
-        "\n"
-        "Ctrl-C stops the running program; no partial panorama is left.\n"
-        "\n"
-        "Exit code: 0 done, 1 a step failed or the stitch was stopped, 2 the command\n"
-        "line is wrong.\n");
+    return QString::fromUtf8(
+               "Usage: panohead stitch [options] <project.pto>\n"
+               "\n"
+               "Stitches a project written by \"panohead import\" with Hugin's tools: cpfind\n"
+               "finds control points (guided by the recorded positions), the points between\n"
+               "stacks that no authorised link joins are removed, cpclean removes wrong\n"
+               "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
+               "crop, nona remaps the pictures, enfuse fuses the exposures of every stack and\n"
+               "enblend blends the stacks. With --hdr (the default when the description's\n"
+               "output mode is 32-bit HDR) each stack is merged to linear floating point\n"
+               "(hugin_hdrmerge) and blended into an OpenEXR or 32-bit float TIFF panorama,\n"
+               "with the fused panorama beside it as a JPEG preview.\n"
+               "The description's options are honoured: without \"Auto detection\" no points\n"
+               "are looked for and the recorded positions are used as they are; \"Skip\n"
+               "optimization\" keeps the positions; without \"Use recorded location\" cpfind\n"
+               "tries every pair (--multirow); linking all stack levels, or control points\n"
+               "inside stacks, looks for points in every picture and lets the optimiser place\n"
+               "each picture of a stack; \"Clean wrong link\" removes the points of a link\n"
+               "that disagree with the optimised positions and places the pictures again.\n"
+               "\n"
+               "Options:\n"
+               "  --description <file.json> the panorama description (default: beside the\n"
+               "                            project, same name)\n"
+               "  -o, --output <file>       the panorama, .tif or .jpg; with --hdr .exr or .tif\n"
+               "                            (default: <name>.tif, with --hdr <name>.exr,\n"
+               "                            beside the project)\n"
+               "  --hdr                     an HDR panorama and a fused JPEG preview\n"
+               "  --work-folder <folder>    intermediate projects, pictures and the log\n"
+               "                            (default: <name>.stitch beside the project)\n"
+               "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
+               "  --timeout <seconds>       longest run of any one program, 1 to 86400\n"
+               "                            (default 900)\n"
+               "  --force                   replace the panorama when it exists; without it\n"
+               "                            the stitch refuses to replace it\n"
+               "  -h, --help                this text\n"
+               "\n"
+               "The panorama is written under a temporary name beside it and takes its name\n"
+               "only when complete: a failed or stopped stitch leaves an older panorama as\n"
+               "it was. While it runs, the stitch holds the lock file .panohead.lock in the\n"
+               "panorama's folder. Ctrl-C or SIGTERM end the running program within a\n"
+               "second and remove its partial output.\n"
+               "\n")
+        + QLatin1String(ExitCode::Table());
 }
 
 int StitchCommand::run(const QStringList& arguments, Console& console)
@@ -142,11 +245,12 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
     const QCommandLineOption timeout(
         QStringLiteral("timeout"), QString(), QStringLiteral("seconds"));
     const QCommandLineOption hdr(QStringLiteral("hdr"), QString());
-    parser.addOptions({ help, description, output, work, tools, timeout, hdr });
+    const QCommandLineOption force(QStringLiteral("force"), QString());
+    parser.addOptions({ help, description, output, work, tools, timeout, hdr, force });
     const auto usage = [&console](const QString& message) {
         console.err << "panohead stitch: " << message << " (see panohead stitch --help)\n";
         console.err.flush();
-        return 2;
+        return ExitCode::UsageError;
     };
     if (!parser.parse(QStringList { QStringLiteral("panohead-stitch") } + arguments))
         return usage(parser.errorText());
@@ -168,8 +272,9 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
     if (parser.isSet(timeout)) {
         bool ok = false;
         options.timeoutSeconds = parser.value(timeout).toInt(&ok);
-        if (!ok || options.timeoutSeconds < 1)
-            return usage(QStringLiteral("--timeout is a number of seconds"));
+        if (!ok || options.timeoutSeconds < 1 || options.timeoutSeconds > MaxTimeoutSeconds)
+            return usage(QStringLiteral("--timeout is a number of seconds from 1 to %1")
+                             .arg(MaxTimeoutSeconds));
     }
     if (parser.isSet(hdr))
         options.mode = StitchPipeline::Output::Hdr;
@@ -182,19 +287,37 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
             && suffix != QLatin1String("jpeg"))
             return usage(QStringLiteral("the panorama is a .tif or .jpg file"));
     }
-    return stitch(options, console);
+    return stitch(options, parser.isSet(force), console);
 }
 
-int StitchCommand::stitch(const Options& options, Console& console)
+int StitchCommand::stitch(const Options& options, bool force, Console& console)
 {
-    StitchPipeline pipeline(options);
+    const auto fail = [&console](const Failure& f) {
+        console.err << "panohead stitch: " << f.message << '\n';
+        console.err.flush();
+        return f.code;
+    };
+    QString panorama;
+    const Failure checked = check(options, force, &panorama);
+    if (checked.code != ExitCode::Done)
+        return fail(checked);
+    OutputFiles::FolderLock lock;
+    QString error;
+    if (!lock.lock(QFileInfo(panorama).absolutePath(), &error))
+        return fail(inputError(error));
+    // Another run may have finished its panorama while this one checked.
+    const QString present = OutputFiles::existing({ panorama }, force);
+    if (!present.isEmpty())
+        return fail(inputError(OutputFiles::existsMessage(present)));
+
+    Options checkedOptions = options;
+    checkedOptions.output = panorama;
+    StitchPipeline pipeline(checkedOptions);
     pipeline.setProgress(
         [&console](const StitchPipeline::StepEvent& event) { print(console, event); });
-    StitchPipeline::Result result;
-    {
-        const StopOnSignals stopOnSignals(&pipeline);
-        result = pipeline.run();
-    }
+    StopSignals::setPipeline(&pipeline);
+    const StitchPipeline::Result result = pipeline.run();
+    StopSignals::setPipeline(nullptr);
     const QString log = QDir::toNativeSeparators(result.log);
     switch (result.outcome) {
     case StitchPipeline::Result::Failed:
@@ -206,14 +329,14 @@ int StitchCommand::stitch(const Options& options, Console& console)
                                .arg(result.stepCount)
                                .arg(result.tool, result.error, log);
         console.err.flush();
-        return 1;
+        return result.step == 0 ? ExitCode::InputError : ExitCode::ToolFailure;
     case StitchPipeline::Result::Stopped:
         console.err << QStringLiteral("panohead stitch: stopped at step %1/%2 (%3); log: %4\n")
                            .arg(result.step)
                            .arg(result.stepCount)
                            .arg(result.tool, log);
         console.err.flush();
-        return 1;
+        return StopSignals::received() ? StopSignals::exitCode() : ExitCode::Interrupted + SIGINT;
     case StitchPipeline::Result::Succeeded:
         break;
     }
@@ -230,5 +353,5 @@ int StitchCommand::stitch(const Options& options, Console& console)
         << "Stitched project: " << QDir::toNativeSeparators(result.stitchedProject) << '\n'
         << "Work folder:      " << QDir::toNativeSeparators(result.workFolder) << '\n';
     console.out.flush();
-    return 0;
+    return ExitCode::Done;
 }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs every Debian package the project needs: build tools, Qt 5 with its
-# Designer and Linguist tools, exiv2, Google Benchmark, Hugin's command-line
-# tools, clang's fuzzing runtime and what the screenshot scripts use.
+# Designer and Linguist tools and its image-format plug-ins (TIFF photographs),
+# exiv2, Google Benchmark, Hugin's command-line tools with enblend and enfuse,
+# clang's fuzzing runtime and what the screenshot scripts use.
 # Idempotent and non-interactive: only missing packages are installed.
 set -euo pipefail
 
@@ -10,6 +11,7 @@ packages=(
   qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
   libexiv2-dev libbenchmark-dev
   hugin-tools enblend enfuse
+  qt5-image-formats-plugins
   clang libclang-rt-14-dev
   libimage-exiftool-perl
   xvfb xauth

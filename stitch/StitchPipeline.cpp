@@ -14,6 +14,9 @@
 #include <QVector>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 
 // cancel() stores into the flag from signal handlers too.
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
@@ -542,16 +545,19 @@ Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
                            .arg(size.height())
                            .arg(expected.width())
                            .arg(expected.height()));
-    if (!QFile::rename(partial, target))
-        return failure(QStringLiteral("cannot rename %1 to %2").arg(partial, target));
+    // rename(2) replaces an older panorama in one step; QFile::rename would not.
+    if (std::rename(QFile::encodeName(partial).constData(), QFile::encodeName(target).constData())
+        != 0)
+        return failure(QStringLiteral("cannot rename %1 to %2: %3")
+                           .arg(partial, target, QString::fromLocal8Bit(std::strerror(errno))));
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 
 Outcome blendTo(
     Stitch& s, const QStringList& inputs, const QString& target, const QStringList& arguments)
 {
-    // After a failed or stopped stitch no panorama is left, not even an older one.
-    QFile::remove(target);
+    // An older panorama stays until the new one, complete and checked, takes
+    // its name; a failed or stopped blend leaves it as it was.
     const QString partial = partialPanorama(target);
     QFile::remove(partial);
     const Outcome outcome = blendInto(s, inputs, target, partial, arguments);
@@ -562,8 +568,6 @@ Outcome blendTo(
 
 Outcome blend(Stitch& s)
 {
-    if (s.hdr)
-        QFile::remove(s.options.output);
     return blendTo(s,
         blendInputs(s, QStringLiteral("remapped"), QStringLiteral("fused"), QStringLiteral("tif")),
         s.fusedOutput, {});

@@ -101,10 +101,10 @@ public:
         /// Every program's command line and output; empty before the work
         /// folder exists.
         QString log;
-        /// Where the panorama goes (absolute). Blending removes an older
-        /// panorama first and writes the new one there only once checked, so
-        /// after a failure or stop in that step no file is there. Its size in
-        /// pixels is valid on success only.
+        /// Where the panorama goes (absolute). Blending writes beside it
+        /// under a temporary name and renames the new panorama into place
+        /// only once checked, so after a failure or stop an older panorama
+        /// is there as it was. Its size in pixels is valid on success only.
         QString panorama;
         QSize panoramaSize;
         /// HDR: the fused JPEG beside the panorama (absolute); else empty.

@@ -31,7 +31,12 @@ QString lastLines(const QString& path, int count)
         return QString();
     const qint64 size = file.size();
     file.seek(qMax<qint64>(0, size - 4096));
-    QStringList lines = QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'));
+    // Progress output may hold NUL bytes (and carriage returns); they would
+    // cut the reason short.
+    QByteArray tail = file.readAll();
+    tail.replace('\0', QByteArray());
+    tail.replace('\r', '\n');
+    QStringList lines = QString::fromLocal8Bit(tail).split(QLatin1Char('\n'));
     for (QString& l : lines)
         l = l.trimmed();
     lines.removeAll(QString());

@@ -4,6 +4,7 @@
 // misbehave one at a time.
 #include "CommandLine.h"
 #include "DescriptionJson.h"
+#include "StandInTools.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,47 +55,6 @@ int imageLines(const QString& project)
     for (const QByteArray& line : file.readAll().split('\n'))
         count += line.startsWith("i ") ? 1 : 0;
     return count;
-}
-
-bool writeScript(const QString& path, const QString& body)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write("#!/bin/sh\nout=; prev=; last=; images=\n"
-               "for a in \"$@\"; do\n"
-               "  [ \"$prev\" = \"-o\" ] && out=\"$a\"\n"
-               "  [ \"$prev\" = \"-i\" ] && images=\"$images $a\"\n"
-               "  prev=\"$a\"; last=\"$a\"\n"
-               "done\n");
-    file.write(body.toUtf8());
-    file.write("\n");
-    file.close();
-    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-/// What each stand-in does when it behaves: the project passes through, the
-/// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
-/// 100 × 50 TIFF header.
-QMap<QString, QString> wellBehavedTools()
-{
-    return {
-        { QStringLiteral("cpfind"),
-            QStringLiteral("cp \"$last\" \"$out\"; echo 'c n0 N1 x1 y1 X2 Y2 t0' >> \"$out\"") },
-        { QStringLiteral("cpclean"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("autooptimiser"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("pano_modify"),
-            QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
-        { QStringLiteral("nona"),
-            QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
-                           "\"$i\")\"; done") },
-        { QStringLiteral("enblend"),
-            QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
-                           "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
-                           "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
-                           "\\000\\000\\000\\000' > \"$out\"") },
-    };
 }
 
 } // namespace
@@ -163,16 +123,7 @@ void tst_CommandLine::initTestCase()
 
 bool tst_CommandLine::makeTools(const QString& folder, const QMap<QString, QString>& changes)
 {
-    if (!QDir().mkpath(folder))
-        return false;
-    QMap<QString, QString> tools = wellBehavedTools();
-    for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
-        tools[it.key()] = it.value();
-    for (auto it = tools.constBegin(); it != tools.constEnd(); ++it) {
-        if (!writeScript(QDir(folder).filePath(it.key()), it.value()))
-            return false;
-    }
-    return true;
+    return StandInTools::make(folder, changes);
 }
 
 void tst_CommandLine::help()
@@ -190,7 +141,8 @@ void tst_CommandLine::help()
     o = command({ QStringLiteral("frob") });
     QCOMPARE(o.code, 2);
     QCOMPARE(o.err,
-        QStringLiteral("panohead: unknown command \"frob\"; the commands are import and stitch\n"));
+        QStringLiteral("panohead: unknown command \"frob\"; the commands are import, stitch "
+                       "and batch (see panohead --help)\n"));
 }
 
 void tst_CommandLine::importErrors_data()
@@ -398,8 +350,9 @@ void tst_CommandLine::importCannotWrite()
         = command({ QStringLiteral("import"), QStringLiteral("gigapan"), QStringLiteral("--focal"),
             QStringLiteral("35"), path(QStringLiteral("photos")), QStringLiteral("-o"), output });
     QCOMPARE(o.code, 1);
-    QCOMPARE(
-        o.err, importFailure(QStringLiteral("cannot create the output folder %1").arg(output)));
+    QCOMPARE(o.err,
+        importFailure(QStringLiteral("cannot create the output folder %1: %2 is a file")
+                          .arg(output, path(QStringLiteral("photos/P1.jpg")))));
 }
 
 void tst_CommandLine::stitchUsage_data()
@@ -415,7 +368,10 @@ void tst_CommandLine::stitchUsage_data()
         << "the panorama is a .tif or .jpg file";
     QTest::newRow("timeout not a number") << QStringList { s, QStringLiteral("--timeout"),
         QStringLiteral("soon"), QStringLiteral("a.pto") }
-                                          << "--timeout is a number of seconds";
+                                          << "--timeout is a number of seconds from 1 to 86400";
+    QTest::newRow("timeout beyond a day") << QStringList { s, QStringLiteral("--timeout"),
+        QStringLiteral("4294968"), QStringLiteral("a.pto") }
+                                          << "--timeout is a number of seconds from 1 to 86400";
 }
 
 void tst_CommandLine::stitchUsage()
@@ -460,17 +416,20 @@ void tst_CommandLine::stitchMissingFiles()
         QDir(other).filePath(QStringLiteral("three-shots.json")),
         QDir(folder).filePath(QStringLiteral("three-shots.pto")) });
     QCOMPARE(o.code, 1);
-    QVERIFY2(o.err.startsWith(QStringLiteral("panohead stitch: the project's image 0 (")),
-        qPrintable(o.err));
-    QVERIFY(o.err.endsWith(QStringLiteral(") is in no stack of the description\n")));
+    QCOMPARE(o.err,
+        QStringLiteral("panohead stitch: the description %1 (4 stacks, 4 photographs) does not "
+                       "fit the project %2 (3 stacks, 3 images)\n")
+            .arg(QDir(other).filePath(QStringLiteral("three-shots.json")),
+                QDir(folder).filePath(QStringLiteral("three-shots.pto"))));
 
     const QString noTools = path(QStringLiteral("no-tools"));
     QVERIFY(QDir().mkpath(noTools));
     const QString project = path(QStringLiteral("other/three-shots.pto"));
     o = command({ QStringLiteral("stitch"), QStringLiteral("--tools"), noTools, project });
-    QCOMPARE(o.code, 1);
+    QCOMPARE(o.code, 3);
     QCOMPARE(o.err,
-        QStringLiteral("panohead stitch: Hugin's program cpfind is not found in %1\n")
+        QStringLiteral("panohead stitch: Hugin's program cpfind is not found in %1 (Debian "
+                       "package hugin-tools)\n")
             .arg(noTools));
 }
 
@@ -566,7 +525,7 @@ void tst_CommandLine::stitchSteps()
                                    .arg(QDir(folder).filePath(QStringLiteral("three-shots.tif")))));
         return;
     }
-    QCOMPARE(o.code, 1);
+    QCOMPARE(o.code, 3);
     QVERIFY2(o.err.startsWith(QStringLiteral("panohead stitch: ") + failure), qPrintable(o.err));
     QVERIFY2(o.err.endsWith(
                  QStringLiteral("; log: %1\n")
@@ -619,7 +578,7 @@ void tst_CommandLine::stitchStoppedByInterrupt()
         QDir(folder).filePath(QStringLiteral("three-shots.pto")) });
     interrupt.join();
     QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(o.code, 1);
+    QCOMPARE(o.code, 130);
     QCOMPARE(o.out, QStringLiteral("[1/7] cpfind: finding control points ... stopped\n"));
     QCOMPARE(o.err,
         QStringLiteral("panohead stitch: stopped at step 1/7 (cpfind); log: %1\n")

@@ -1,0 +1,71 @@
+// Stand-ins for Hugin's programs: small shell scripts that read the command
+// line as the real programs do ("-o <output>", "-i <image>", the input last)
+// and behave well or, one at a time, badly.
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QString>
+
+namespace StandInTools {
+
+/// Writes an executable script at path: the argument parsing above, then body.
+inline bool writeScript(const QString& path, const QString& body)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write("#!/bin/sh\nout=; prev=; last=; images=\n"
+               "for a in \"$@\"; do\n"
+               "  [ \"$prev\" = \"-o\" ] && out=\"$a\"\n"
+               "  [ \"$prev\" = \"-i\" ] && images=\"$images $a\"\n"
+               "  prev=\"$a\"; last=\"$a\"\n"
+               "done\n");
+    file.write(body.toUtf8());
+    file.write("\n");
+    file.close();
+    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/// What each stand-in does when it behaves: the project passes through, the
+/// control point finder adds one point between the linked stacks 0 and 1,
+/// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
+/// 100 × 50 TIFF header.
+inline QMap<QString, QString> wellBehaved()
+{
+    return {
+        { QStringLiteral("cpfind"),
+            QStringLiteral("cp \"$last\" \"$out\"; echo 'c n0 N1 x1 y1 X2 Y2 t0' >> \"$out\"") },
+        { QStringLiteral("cpclean"), QStringLiteral("cp \"$last\" \"$out\"") },
+        { QStringLiteral("autooptimiser"), QStringLiteral("cp \"$last\" \"$out\"") },
+        { QStringLiteral("pano_modify"),
+            QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
+        { QStringLiteral("nona"),
+            QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
+                           "\"$i\")\"; done") },
+        { QStringLiteral("enblend"),
+            QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
+                           "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
+                           "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
+                           "\\000\\000\\000\\000' > \"$out\"") },
+    };
+}
+
+/// Writes the well-behaved stand-ins into folder, with changes (tool to
+/// script body) replacing some; an empty body leaves that tool out.
+inline bool make(const QString& folder, const QMap<QString, QString>& changes)
+{
+    if (!QDir().mkpath(folder))
+        return false;
+    QMap<QString, QString> tools = wellBehaved();
+    for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
+        tools[it.key()] = it.value();
+    for (auto it = tools.constBegin(); it != tools.constEnd(); ++it) {
+        if (!it.value().isEmpty() && !writeScript(QDir(folder).filePath(it.key()), it.value()))
+            return false;
+    }
+    return true;
+}
+
+} // namespace StandInTools
