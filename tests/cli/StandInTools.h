@@ -28,10 +28,17 @@ inline bool writeScript(const QString& path, const QString& body)
     return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+/// A 100 × 50 TIFF header written to $out: what a blender's stand-in writes.
+const QString TiffHeader
+    = QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
+                     "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
+                     "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
+                     "\\000\\000\\000\\000' > \"$out\"");
+
 /// What each stand-in does when it behaves: the project passes through, the
 /// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
-/// 100 × 50 TIFF header.
+/// the canvas gets a 100 × 50 crop, nona writes its pictures, the blender and
+/// the exposure fuser a 100 × 50 TIFF header, the HDR merger one byte.
 inline QMap<QString, QString> wellBehaved()
 {
     return {
@@ -44,11 +51,9 @@ inline QMap<QString, QString> wellBehaved()
         { QStringLiteral("nona"),
             QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
                            "\"$i\")\"; done") },
-        { QStringLiteral("enblend"),
-            QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
-                           "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
-                           "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
-                           "\\000\\000\\000\\000' > \"$out\"") },
+        { QStringLiteral("enblend"), TiffHeader },
+        { QStringLiteral("enfuse"), TiffHeader },
+        { QStringLiteral("hugin_hdrmerge"), QStringLiteral("printf x > \"$out\"") },
     };
 }
 

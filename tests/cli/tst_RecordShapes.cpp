@@ -759,9 +759,12 @@ void tst_RecordShapes::bracketOption()
         qPrintable(out));
     QVERIFY2(out.contains(QLatin1String("\n50 stacks, 500 photographs, ")), qPrintable(out));
 
+    // Once the first set exists, a second import into the folder replaces it
+    // only when told to.
     out.clear();
     QCOMPARE(run({ QStringLiteral("import"), QStringLiteral("papywizard"), QStringLiteral("--bracket"),
-                     QStringLiteral("2"), QStringLiteral("-o"), output, record, folder },
+                     QStringLiteral("2"), QStringLiteral("--force"), QStringLiteral("-o"), output,
+                     record, folder },
                  &out, &err),
         0);
     QVERIFY2(out.contains(QLatin1String("\n250 stacks, 500 photographs, ")), qPrintable(out));
@@ -771,7 +774,8 @@ void tst_RecordShapes::bracketOption()
     out.clear();
     err.clear();
     QCOMPARE(run({ QStringLiteral("import"), QStringLiteral("papywizard"), QStringLiteral("--bracket"),
-                     QStringLiteral("3"), QStringLiteral("-o"), output, record, folder },
+                     QStringLiteral("3"), QStringLiteral("--force"), QStringLiteral("-o"), output,
+                     record, folder },
                  &out, &err),
         1);
     QCOMPARE(err,
