@@ -15,6 +15,7 @@
 #include "PanoramaPreview.h"
 #include "PhotoFixture.h"
 #include "PluginLibraryLoader.h"
+#include "StandInTools.h"
 #include "StitchProgressWidget.h"
 
 #include <QAbstractButton>
@@ -56,24 +57,7 @@ HostApplication* host()
     return HostApplication::instance();
 }
 
-/// A script with $out (after -o), $last (the last argument) and $images
-/// (after each -i) set, then body.
-bool writeScript(const QString& path, const QString& body)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write("#!/bin/sh\nout=; prev=; last=; images=\n"
-               "for a in \"$@\"; do\n"
-               "  [ \"$prev\" = \"-o\" ] && out=\"$a\"\n"
-               "  [ \"$prev\" = \"-i\" ] && images=\"$images $a\"\n"
-               "  prev=\"$a\"; last=\"$a\"\n"
-               "done\n");
-    file.write(body.toUtf8());
-    file.write("\n");
-    file.close();
-    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
+using StandInTools::writeScript;
 
 const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Removing points between positions that do not meet"),
@@ -81,16 +65,7 @@ const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Choosing canvas and crop"), QStringLiteral("Remapping"),
     QStringLiteral("Blending") };
 
-/// True while pid names a process that has not ended (a zombie has ended).
-bool processRuns(qint64 pid)
-{
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray text = stat.readAll();
-    const int close = text.lastIndexOf(')');
-    return close >= 0 && close + 2 < text.size() && text.at(close + 2) != 'Z';
-}
+using StandInTools::processRuns;
 
 /// Answers the next file dialog: checks it with `check`, types `name` and
 /// accepts (or rejects when `name` is empty).

@@ -5,6 +5,7 @@
 // partial output.
 #include "DescriptionJson.h"
 #include "PtoProject.h"
+#include "StandInTools.h"
 #include "StitchPipeline.h"
 
 #include <QDir>
@@ -61,65 +62,13 @@ const char WrongLinkPoints[] = "c n0 N1 x347.21 y150 X52.79 Y150 t0\n"
                                "c n0 N1 x347.21 y200 X52.79 Y200 t0\n"
                                "c n1 N2 x300 y150 X100 Y150 t0\n";
 
-/// A script with $out (after -o), $last (the last argument) and $images
-/// (after each -i) set, then body.
-bool writeScript(const QString& path, const QString& body)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write("#!/bin/sh\nout=; prev=; last=; images=\n"
-               "for a in \"$@\"; do\n"
-               "  [ \"$prev\" = \"-o\" ] && out=\"$a\"\n"
-               "  [ \"$prev\" = \"-i\" ] && images=\"$images $a\"\n"
-               "  prev=\"$a\"; last=\"$a\"\n"
-               "done\n");
-    file.write(body.toUtf8());
-    file.write("\n");
-    file.close();
-    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
+using StandInTools::processRuns;
+using StandInTools::TiffHeader;
+using StandInTools::writeScript;
 
-/// A script writing the header of a 100 × 50 TIFF to $out.
-const QString TiffHeader
-    = QStringLiteral("printf '\\111\\111\\052\\000\\010\\000\\000\\000\\002\\000"
-                     "\\000\\001\\003\\000\\001\\000\\000\\000\\144\\000\\000\\000"
-                     "\\001\\001\\003\\000\\001\\000\\000\\000\\062\\000\\000\\000"
-                     "\\000\\000\\000\\000' > \"$out\"");
-
-/// What each stand-in does when it behaves: the project passes through, the
-/// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures and enblend a
-/// 100 × 50 TIFF header.
 QMap<QString, QString> wellBehavedTools()
 {
-    return {
-        { QStringLiteral("cpfind"),
-            QStringLiteral("cp \"$last\" \"$out\"; echo 'c n0 N1 x1 y1 X2 Y2 t0' >> \"$out\"") },
-        { QStringLiteral("cpclean"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("autooptimiser"), QStringLiteral("cp \"$last\" \"$out\"") },
-        { QStringLiteral("pano_modify"),
-            QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
-        { QStringLiteral("nona"),
-            QStringLiteral("ext=tif; case \"$*\" in *EXR_m*) ext=exr;; esac\n"
-                           "for i in $images; do printf x > \"$(printf '%s%04d.%s' \"$out\" "
-                           "\"$i\" $ext)\"; done") },
-        { QStringLiteral("enfuse"), TiffHeader },
-        { QStringLiteral("hugin_hdrmerge"), QStringLiteral("printf x > \"$out\"") },
-        { QStringLiteral("enblend"), TiffHeader },
-    };
-}
-
-/// True while pid names a process that has not ended (a zombie has ended).
-bool processRuns(qint64 pid)
-{
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray text = stat.readAll();
-    // "pid (name) S ...": the state follows the name's closing parenthesis.
-    const int close = text.lastIndexOf(')');
-    return close >= 0 && close + 2 < text.size() && text.at(close + 2) != 'Z';
+    return StandInTools::wellBehaved();
 }
 
 /// Runs pipeline on a thread of its own, recording the events and the

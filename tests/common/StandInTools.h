@@ -37,7 +37,8 @@ const QString TiffHeader
 
 /// What each stand-in does when it behaves: the project passes through, the
 /// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures, the blender and
+/// the canvas gets a 100 × 50 crop, nona writes its pictures (OpenEXR ones
+/// when asked for them), the blender and
 /// the exposure fuser a 100 × 50 TIFF header, the HDR merger one byte.
 inline QMap<QString, QString> wellBehaved()
 {
@@ -49,8 +50,9 @@ inline QMap<QString, QString> wellBehaved()
         { QStringLiteral("pano_modify"),
             QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
         { QStringLiteral("nona"),
-            QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
-                           "\"$i\")\"; done") },
+            QStringLiteral("ext=tif; case \"$*\" in *EXR_m*) ext=exr;; esac\n"
+                           "for i in $images; do printf x > \"$(printf '%s%04d.%s' \"$out\" "
+                           "\"$i\" $ext)\"; done") },
         { QStringLiteral("enblend"), TiffHeader },
         { QStringLiteral("enfuse"), TiffHeader },
         { QStringLiteral("hugin_hdrmerge"), QStringLiteral("printf x > \"$out\"") },
@@ -71,6 +73,18 @@ inline bool make(const QString& folder, const QMap<QString, QString>& changes)
             return false;
     }
     return true;
+}
+
+/// True while pid names a process that has not ended (a zombie has ended).
+inline bool processRuns(qint64 pid)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray text = stat.readAll();
+    // "pid (name) S ...": the state follows the name's closing parenthesis.
+    const int close = text.lastIndexOf(')');
+    return close >= 0 && close + 2 < text.size() && text.at(close + 2) != 'Z';
 }
 
 } // namespace StandInTools
