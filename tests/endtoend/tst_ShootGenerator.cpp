@@ -122,8 +122,10 @@ void tst_ShootGenerator::records_data()
     /// Largest difference between a recorded and a true angle.
     QTest::addColumn<double>("error");
 
-    const QStringList tiny = { QStringLiteral("--size"), QStringLiteral("64x48"),
-        QStringLiteral("--samples"), QStringLiteral("1") };
+    // A coarse scene: these tests look at the files, not at the pictures.
+    const QStringList tiny
+        = { QStringLiteral("--size"), QStringLiteral("64x48"), QStringLiteral("--samples"),
+              QStringLiteral("1"), QStringLiteral("--scene-width"), QStringLiteral("1800") };
     QTest::newRow("grid without error") << (tiny
         + QStringList { QStringLiteral("--rows"), QStringLiteral("2"), QStringLiteral("--columns"),
             QStringLiteral("3"), QStringLiteral("--error"), QStringLiteral("0") })
@@ -244,11 +246,12 @@ void tst_ShootGenerator::photographs()
 {
     const QString folder = generate(QStringLiteral("exif"),
         { QStringLiteral("--size"), QStringLiteral("90x60"), QStringLiteral("--samples"),
-            QStringLiteral("1"), QStringLiteral("--rows"), QStringLiteral("1"),
-            QStringLiteral("--columns"), QStringLiteral("2"), QStringLiteral("--bracket"),
-            QStringLiteral("3"), QStringLiteral("--ev-step"), QStringLiteral("2"),
-            QStringLiteral("--focal"), QStringLiteral("45"), QStringLiteral("--crop-factor"),
-            QStringLiteral("1.5"), QStringLiteral("--portrait"), QStringLiteral("tagged") });
+            QStringLiteral("1"), QStringLiteral("--scene-width"), QStringLiteral("1800"),
+            QStringLiteral("--rows"), QStringLiteral("1"), QStringLiteral("--columns"),
+            QStringLiteral("2"), QStringLiteral("--bracket"), QStringLiteral("3"),
+            QStringLiteral("--ev-step"), QStringLiteral("2"), QStringLiteral("--focal"),
+            QStringLiteral("45"), QStringLiteral("--crop-factor"), QStringLiteral("1.5"),
+            QStringLiteral("--portrait"), QStringLiteral("tagged") });
     QVERIFY(!folder.isEmpty());
     const QDir dir(folder);
     // 1/125 s at 0 EV; the bracket is shot 0, -2, +2 EV.
@@ -278,13 +281,13 @@ void tst_ShootGenerator::photographs()
 
 void tst_ShootGenerator::sameSeedSameShoot()
 {
-    const QStringList options
-        = { QStringLiteral("--size"), QStringLiteral("64x48"), QStringLiteral("--samples"),
-              QStringLiteral("1"), QStringLiteral("--seed"), QStringLiteral("42") };
+    const QStringList options = { QStringLiteral("--size"), QStringLiteral("64x48"),
+        QStringLiteral("--samples"), QStringLiteral("1"), QStringLiteral("--scene-width"),
+        QStringLiteral("1800"), QStringLiteral("--seed"), QStringLiteral("42") };
     const QString a = generate(QStringLiteral("seed-a"), options);
     const QString b = generate(QStringLiteral("seed-b"), options);
     const QString c = generate(QStringLiteral("seed-c"),
-        QStringList(options.mid(0, 4)) << QStringLiteral("--seed") << QStringLiteral("43"));
+        QStringList(options.mid(0, 6)) << QStringLiteral("--seed") << QStringLiteral("43"));
     QVERIFY(!a.isEmpty() && !b.isEmpty() && !c.isEmpty());
     const auto bytes = [](const QString& folder, const QString& name) {
         QFile file(QDir(folder).filePath(name));
