@@ -82,7 +82,9 @@ run() {
   step "$name ours: import" "$panohead" import papywizard "$shoot/papywizard.xml" "$shoot" \
     -o "$ours" --name shoot
   step "$name ours: stitch" "$panohead" stitch "$ours/shoot.pto"
-  grep -E '^\[[0-9]+/[0-9]+\]' "$work/$name ours: stitch.log" | sed 's/^/    /' >> "$report" || true
+  # The stitch's own wall time per step, from its progress lines.
+  tr '\r' '\n' < "$work/$name ours: stitch.log" | grep -E '^\[[0-9]+/[0-9]+\].* done' \
+    | sed -E 's/^/    /; s/ \(stacks [^)]*\)//' >> "$report" || true
   echo "    $name ours: $(python3 "$root/scripts/pto-angle-error.py" \
     "$ours/shoot.stitch/05-final.pto" "$shoot/ground-truth.csv")" >> "$report"
 

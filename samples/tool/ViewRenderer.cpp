@@ -53,9 +53,12 @@ QImage ViewRenderer::render(
     const double sceneHeight = m_scene.height();
 
     QImage view(width, height, QImage::Format_RGB32);
+    // The rows are written through one pointer taken before the threads start.
+    uchar* const pixels = view.bits();
+    const qsizetype stride = view.bytesPerLine();
     const auto renderRows = [&](int firstRow, int endRow) {
         for (int row = firstRow; row < endRow; ++row) {
-            QRgb* out = reinterpret_cast<QRgb*>(view.scanLine(row));
+            QRgb* out = reinterpret_cast<QRgb*>(pixels + row * stride);
             for (int column = 0; column < width; ++column) {
                 double sum[3] = { 0, 0, 0 };
                 for (int sy = 0; sy < samples; ++sy) {
