@@ -46,23 +46,27 @@ export QT_QPA_PLATFORM=offscreen
 } > "$report"
 
 # Runs a command under /usr/bin/time -v, its output in <work>/<label>.log, and
-# adds a line to the report.
+# adds a line to the report (marked FAILED when the command fails; its status
+# is returned).
 step() {
   local label=$1
   shift
   local log="$work/$label.log"
   local times="$work/$label.time"
-  if ! /usr/bin/time -v -o "$times" "$@" > "$log" 2>&1; then
+  local status=0
+  /usr/bin/time -v -o "$times" "$@" > "$log" 2>&1 || status=$?
+  if ((status != 0)); then
     echo "step $label failed; see $log" >&2
-    tail -20 "$log" >&2
-    exit 1
+    tail -5 "$log" >&2
   fi
-  awk -v label="$label" '
+  awk -v label="$label" -v failed="$status" '
     /Elapsed \(wall clock\)/ { n = split($NF, t, ":"); wall = (n == 3) ? t[1] * 3600 + t[2] * 60 + t[3] : t[1] * 60 + t[2] }
     /User time/ { user = $NF }
     /System time/ { sys = $NF }
     /Maximum resident/ { mem = $NF / 1024 }
-    END { printf "%-34s %9.1f %9.1f %10.0f\n", label, wall, user + sys, mem }' "$times" >> "$report"
+    END { printf "%-34s %9.1f %9.1f %10.0f%s\n", label, wall, user + sys, mem, failed != 0 ? "  FAILED" : "" }' \
+    "$times" >> "$report"
+  return "$status"
 }
 
 # One shoot: generate, ours (import + stitch), the stock pipeline.
@@ -76,12 +80,12 @@ run() {
   mkdir -p "$ours" "$stock"
   echo "== $name: generating"
   echo "-- $name: $*" >> "$report"
-  step "$name generate" "$generator" --generate "$shoot" "$@"
+  step "$name generate" "$generator" --generate "$shoot" "$@" || exit 1
 
   echo "== $name: panohead import + stitch"
   step "$name ours: import" "$panohead" import papywizard "$shoot/papywizard.xml" "$shoot" \
-    -o "$ours" --name shoot
-  step "$name ours: stitch" "$panohead" stitch "$ours/shoot.pto"
+    -o "$ours" --name shoot || exit 1
+  step "$name ours: stitch" "$panohead" stitch "$ours/shoot.pto" || exit 1
   # The stitch's own wall time per step, from its progress lines.
   tr '\r' '\n' < "$work/$name ours: stitch.log" | grep -E '^\[[0-9]+/[0-9]+\].* done' \
     | sed -E 's/^/    /; s/ \(stacks [^)]*\)//' >> "$report" || true
@@ -89,18 +93,23 @@ run() {
     "$ours/shoot.stitch/05-final.pto" "$shoot/ground-truth.csv")" >> "$report"
 
   echo "== $name: Hugin's stock pipeline"
+  # The stock pipeline goes on to its end when a step fails, as far as its
+  # files allow: a failed blend still leaves the placed project to measure.
   (
     cd "$stock"
-    step "$name stock: pto_gen" pto_gen -o 0-gen.pto "$shoot"/IMG_*.jpg
-    step "$name stock: cpfind" cpfind --multirow -o 1-cpfind.pto 0-gen.pto
-    step "$name stock: cpclean" cpclean -o 2-cpclean.pto 1-cpfind.pto
-    step "$name stock: autooptimiser" autooptimiser -a -m -l -s -o 3-opt.pto 2-cpclean.pto
-    step "$name stock: pano_modify" pano_modify --canvas=AUTO --crop=AUTO -o 4-final.pto 3-opt.pto
-    step "$name stock: nona" nona -m TIFF_m -o remapped 4-final.pto
-    step "$name stock: enblend" enblend -o panorama.tif remapped*.tif
-  )
-  echo "    $name stock: $(python3 "$root/scripts/pto-angle-error.py" \
-    "$stock/4-final.pto" "$shoot/ground-truth.csv")" >> "$report"
+    step "$name stock: pto_gen" pto_gen -o 0-gen.pto "$shoot"/IMG_*.jpg &&
+      step "$name stock: cpfind" cpfind --multirow -o 1-cpfind.pto 0-gen.pto &&
+      step "$name stock: cpclean" cpclean -o 2-cpclean.pto 1-cpfind.pto &&
+      step "$name stock: autooptimiser" autooptimiser -a -m -l -s -o 3-opt.pto 2-cpclean.pto &&
+      step "$name stock: pano_modify" pano_modify --canvas=AUTO --crop=AUTO -o 4-final.pto \
+        3-opt.pto &&
+      step "$name stock: nona" nona -m TIFF_m -o remapped 4-final.pto &&
+      step "$name stock: enblend" enblend -o panorama.tif remapped*.tif
+  ) || true
+  if [[ -f $stock/4-final.pto ]]; then
+    echo "    $name stock: $(python3 "$root/scripts/pto-angle-error.py" \
+      "$stock/4-final.pto" "$shoot/ground-truth.csv")" >> "$report"
+  fi
   echo "load average at the end of $name: $(cut -d' ' -f1-3 /proc/loadavg)" >> "$report"
 }
 
