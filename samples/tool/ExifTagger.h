@@ -10,8 +10,11 @@ class ExifTagger
 public:
     struct Fields
     {
-        /// Millimetres, also written as the 35 mm equivalent.
+        /// Millimetres, also written as the 35 mm equivalent unless
+        /// focalLength35 is set.
         int focalLength = 35;
+        /// The 35 mm equivalent in millimetres; 0: the same as focalLength.
+        int focalLength35 = 0;
         /// Exposure time as the fraction numerator / denominator seconds.
         int exposureNumerator = 1;
         int exposureDenominator = 125;
@@ -19,6 +22,12 @@ public:
         int apertureTimesTen = 80;
         int iso = 100;
         QDateTime shot;
+        /// Hundredths of a second after shot's whole second, written as the
+        /// SubSec fields; -1 for none.
+        int subSecond = -1;
+        /// The EXIF orientation: 1 upright as stored, 6 to be turned a
+        /// quarter clockwise for viewing, 8 a quarter anticlockwise.
+        int orientation = 1;
         int width = 0;
         int height = 0;
     };

@@ -12,8 +12,11 @@ public:
     explicit ViewRenderer(const QImage& scene);
 
     /// A width × height view centred on (yaw, pitch) with horizontal field of
-    /// view hfov, sampled bilinearly with 3 × 3 samples per pixel.
-    QImage render(double yaw, double pitch, double hfov, int width, int height) const;
+    /// view hfov, sampled bilinearly with samples × samples per pixel. The
+    /// rows are shared among the machine's cores; the picture does not depend
+    /// on how.
+    QImage render(
+        double yaw, double pitch, double hfov, int width, int height, int samples = 3) const;
 
 private:
     /// Bilinear sample at scene pixel coordinates, wrapping around in yaw.

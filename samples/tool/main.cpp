@@ -1,7 +1,10 @@
-// zph_make_sample: renders the bundled sample shoot.
+// zph_make_sample: renders the bundled sample shoot, or any other shoot.
 // Usage: zph_make_sample <output folder> [--texture <scene.png>]
+//        zph_make_sample --generate <output folder> [options]
+//        (a shoot of any shape with every head's record; see GeneratedShoot)
 //        zph_make_sample --shrink <picture> <smaller.jpg|.png> <width>
 //        (a small copy of a picture, for the documentation)
+#include "GeneratedShoot.h"
 #include "SampleShoot.h"
 
 #include <QGuiApplication>
@@ -31,6 +34,25 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "zph_make_sample: cannot write %s\n", qPrintable(args[2]));
             return 1;
         }
+        return 0;
+    }
+    if (args.value(0) == QLatin1String("--generate")) {
+        GeneratedShoot::Spec spec;
+        QString error;
+        if (args.size() < 2 || args[1].startsWith(QLatin1String("--"))
+            || !GeneratedShoot::parse(args.mid(2), &spec, &error)) {
+            if (!error.isEmpty())
+                std::fprintf(stderr, "zph_make_sample: %s\n", qPrintable(error));
+            std::fprintf(stderr, "%s", qPrintable(GeneratedShoot::usage()));
+            return 2;
+        }
+        const GeneratedShoot shoot(spec);
+        if (!shoot.write(args[1], &error)) {
+            std::fprintf(stderr, "zph_make_sample: %s\n", qPrintable(error));
+            return 1;
+        }
+        std::printf("zph_make_sample: wrote %d photographs to %s\n",
+            int(shoot.positions().size()) * spec.bracket, qPrintable(args[1]));
         return 0;
     }
     if (args.isEmpty() || args.size() == 2 || args.size() > 3
