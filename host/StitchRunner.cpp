@@ -1,6 +1,5 @@
 #include "StitchRunner.h"
 
-#include <QPointer>
 #include <QThread>
 
 StitchRunner::StitchRunner(QObject* parent) : QObject(parent)
@@ -21,31 +20,23 @@ bool StitchRunner::Start(const StitchPipeline::Options& options)
         return false;
     m_pipeline = std::make_unique<StitchPipeline>(options);
     StitchPipeline* pipeline = m_pipeline.get();
-    // The events cross to this object's thread by queued calls; the pointer
-    // guards against a runner deleted before they arrive.
-    QPointer<StitchRunner> self(this);
-    pipeline->setProgress([self](const StitchPipeline::StepEvent& event) {
-        if (self)
-            QMetaObject::invokeMethod(
-                self,
-                [self, event] {
-                    if (self)
-                        emit self->Step(event);
-                },
-                Qt::QueuedConnection);
+    // The worker hands its events over under the mutex and only nudges this
+    // object's thread, which takes them; the runner waits for the worker
+    // before it goes.
+    pipeline->setProgress([this](const StitchPipeline::StepEvent& event) {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_events.append(event);
+        }
+        QMetaObject::invokeMethod(this, "Deliver", Qt::QueuedConnection);
     });
-    m_thread = QThread::create([self, pipeline] {
+    m_thread = QThread::create([this, pipeline] {
         const StitchPipeline::Result result = pipeline->run();
-        QMetaObject::invokeMethod(
-            self,
-            [self, result] {
-                if (!self)
-                    return;
-                self->Wait();
-                self->m_pipeline.reset();
-                emit self->Finished(result);
-            },
-            Qt::QueuedConnection);
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_result = std::make_unique<StitchPipeline::Result>(result);
+        }
+        QMetaObject::invokeMethod(this, "Deliver", Qt::QueuedConnection);
     });
     m_thread->setObjectName(QStringLiteral("stitch"));
     m_thread->start();
@@ -65,4 +56,22 @@ void StitchRunner::Wait()
     m_thread->wait();
     delete m_thread;
     m_thread = nullptr;
+}
+
+void StitchRunner::Deliver()
+{
+    QVector<StitchPipeline::StepEvent> events;
+    std::unique_ptr<StitchPipeline::Result> result;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        events.swap(m_events);
+        result.swap(m_result);
+    }
+    for (const StitchPipeline::StepEvent& event : qAsConst(events))
+        emit Step(event);
+    if (result) {
+        Wait();
+        m_pipeline.reset();
+        emit Finished(*result);
+    }
 }

@@ -6,8 +6,10 @@
 #include "StitchPipeline.h"
 
 #include <QObject>
+#include <QVector>
 
 #include <memory>
+#include <mutex>
 
 class QThread;
 
@@ -37,8 +39,16 @@ signals:
     void Step(const StitchPipeline::StepEvent& event);
     void Finished(const StitchPipeline::Result& result);
 
+private slots:
+    /// On this object's thread: emits what the worker handed over.
+    void Deliver();
+
 private:
     std::unique_ptr<StitchPipeline> m_pipeline;
+    /// What the worker hands over, guarded by m_mutex.
+    std::mutex m_mutex;
+    QVector<StitchPipeline::StepEvent> m_events;
+    std::unique_ptr<StitchPipeline::Result> m_result;
     QThread* m_thread = nullptr;
 };
 
