@@ -4,6 +4,8 @@
 
 StitchRunner::StitchRunner(QObject* parent) : QObject(parent)
 {
+    m_poll.setInterval(PollMilliseconds);
+    connect(&m_poll, &QTimer::timeout, this, &StitchRunner::Deliver);
     qRegisterMetaType<StitchPipeline::StepEvent>();
     qRegisterMetaType<StitchPipeline::Result>();
 }
@@ -20,15 +22,15 @@ bool StitchRunner::Start(const StitchPipeline::Options& options)
         return false;
     m_pipeline = std::make_unique<StitchPipeline>(options);
     StitchPipeline* pipeline = m_pipeline.get();
-    // The worker hands its events over under the mutex and only nudges this
-    // object's thread, which takes them; the runner waits for the worker
+    // The worker hands its events over under the mutex; this object's thread
+    // takes them every PollMilliseconds. Nothing else crosses the threads, so
+    // no Qt event is posted from the worker. The runner waits for the worker
     // before it goes.
     pipeline->setProgress([this](const StitchPipeline::StepEvent& event) {
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_events.append(event);
         }
-        QMetaObject::invokeMethod(this, "Deliver", Qt::QueuedConnection);
     });
     m_thread = QThread::create([this, pipeline] {
         const StitchPipeline::Result result = pipeline->run();
@@ -36,10 +38,10 @@ bool StitchRunner::Start(const StitchPipeline::Options& options)
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_result = std::make_unique<StitchPipeline::Result>(result);
         }
-        QMetaObject::invokeMethod(this, "Deliver", Qt::QueuedConnection);
     });
     m_thread->setObjectName(QStringLiteral("stitch"));
     m_thread->start();
+    m_poll.start();
     return true;
 }
 
@@ -70,6 +72,7 @@ void StitchRunner::Deliver()
     for (const StitchPipeline::StepEvent& event : qAsConst(events))
         emit Step(event);
     if (result) {
+        m_poll.stop();
         Wait();
         m_pipeline.reset();
         emit Finished(*result);

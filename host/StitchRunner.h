@@ -6,6 +6,7 @@
 #include "StitchPipeline.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QVector>
 
 #include <memory>
@@ -39,16 +40,19 @@ signals:
     void Step(const StitchPipeline::StepEvent& event);
     void Finished(const StitchPipeline::Result& result);
 
-private slots:
+private:
+    /// How often the runner's thread looks for the worker's events.
+    static constexpr int PollMilliseconds = 50;
+
     /// On this object's thread: emits what the worker handed over.
     void Deliver();
 
-private:
     std::unique_ptr<StitchPipeline> m_pipeline;
     /// What the worker hands over, guarded by m_mutex.
     std::mutex m_mutex;
     QVector<StitchPipeline::StepEvent> m_events;
     std::unique_ptr<StitchPipeline::Result> m_result;
+    QTimer m_poll;
     QThread* m_thread = nullptr;
 };
 
