@@ -26,10 +26,11 @@ shoot="$root/samples/sample-shoot"
 mkdir -p "$out"
 
 echo "== import"
-"$panohead" import papywizard "$shoot/shoot.xml" "$shoot" --output "$out"
+# --force: the sample's own outputs are made again on every run.
+"$panohead" import papywizard "$shoot/shoot.xml" "$shoot" --output "$out" --force
 
 echo "== stitch"
-"$panohead" stitch "$out/shoot.pto" --output "$out/shoot.jpg"
+"$panohead" stitch "$out/shoot.pto" --output "$out/shoot.jpg" --force
 
 echo "== files"
 echo "Sample shoot:       $shoot (photographs, shoot.xml, ground-truth.csv)"
