@@ -106,39 +106,39 @@ QDateTime shotTime(int position, int exposure)
 
 } // namespace
 
-GeneratedShoot::GeneratedShoot(const Spec& spec) : m_spec(spec)
+GeneratedShoot::GeneratedShoot(const Plan& plan) : m_plan(plan)
 {
-    const double sensorH = horizontalFov(spec.focal35, spec.width, spec.height);
-    const double focalPixels = spec.width / 2.0 / std::tan(sensorH / 2.0 / kDegrees);
-    const double sensorV = 2.0 * std::atan(spec.height / 2.0 / focalPixels) * kDegrees;
-    const bool standing = spec.portrait != Portrait::No;
+    const double sensorH = horizontalFov(plan.focal35, plan.width, plan.height);
+    const double focalPixels = plan.width / 2.0 / std::tan(sensorH / 2.0 / kDegrees);
+    const double sensorV = 2.0 * std::atan(plan.height / 2.0 / focalPixels) * kDegrees;
+    const bool standing = plan.portrait != Portrait::No;
     m_hfov = standing ? sensorV : sensorH;
     m_vfov = standing ? sensorH : sensorV;
 
-    QVector<QPointF> planned = spec.positions;
+    QVector<QPointF> planned = plan.positions;
     if (planned.isEmpty()) {
         // Where Gigapan's grid puts them: centred on yaw 0 and pitch 0, row 0
         // at the top.
-        const int rows = spec.rows;
-        const int columns = spec.columns;
+        const int rows = plan.rows;
+        const int columns = plan.columns;
         const double yawStep
-            = spec.fullCircle ? 360.0 / columns : m_hfov * (1.0 - spec.overlap / 100.0);
-        const double pitchStep = m_vfov * (1.0 - spec.overlap / 100.0);
+            = plan.fullCircle ? 360.0 / columns : m_hfov * (1.0 - plan.overlap / 100.0);
+        const double pitchStep = m_vfov * (1.0 - plan.overlap / 100.0);
         planned.resize(rows * columns);
         for (int row = 0; row < rows; ++row)
             for (int column = 0; column < columns; ++column)
-                planned[int(cellIndex(spec.order, rows, columns, row, column))] = QPointF(
+                planned[int(cellIndex(plan.order, rows, columns, row, column))] = QPointF(
                     (column - (columns - 1) / 2.0) * yawStep, ((rows - 1) / 2.0 - row) * pitchStep);
     }
-    QRandomGenerator random(spec.seed);
+    QRandomGenerator random(plan.seed);
     for (const QPointF& p : planned) {
         Position position;
         position.plannedYaw = p.x();
         position.plannedPitch = p.y();
         // The first position is where the head was set up: exact.
         const bool first = m_positions.isEmpty();
-        const double yawError = first ? 0.0 : (random.generateDouble() * 2.0 - 1.0) * spec.error;
-        const double pitchError = first ? 0.0 : (random.generateDouble() * 2.0 - 1.0) * spec.error;
+        const double yawError = first ? 0.0 : (random.generateDouble() * 2.0 - 1.0) * plan.error;
+        const double pitchError = first ? 0.0 : (random.generateDouble() * 2.0 - 1.0) * plan.error;
         position.trueYaw = p.x() + yawError;
         position.truePitch = p.y() + pitchError;
         m_positions.append(position);
@@ -170,12 +170,12 @@ QString GeneratedShoot::usage()
         "  --quality <q>              JPEG quality (default 90)\n");
 }
 
-bool GeneratedShoot::parse(const QStringList& arguments, Spec* spec, QString* error)
+bool GeneratedShoot::parse(const QStringList& arguments, Plan* plan, QString* error)
 {
     for (int i = 0; i < arguments.size(); ++i) {
         const QString option = arguments[i];
         if (option == QLatin1String("--full-circle")) {
-            spec->fullCircle = true;
+            plan->fullCircle = true;
             continue;
         }
         if (i + 1 >= arguments.size()) {
@@ -195,57 +195,57 @@ bool GeneratedShoot::parse(const QStringList& arguments, Spec* spec, QString* er
             return v;
         };
         if (option == QLatin1String("--rows")) {
-            spec->rows = integer(1, 100);
+            plan->rows = integer(1, 100);
         } else if (option == QLatin1String("--columns")) {
-            spec->columns = integer(1, 1000);
+            plan->columns = integer(1, 1000);
         } else if (option == QLatin1String("--positions")) {
-            spec->positions.clear();
+            plan->positions.clear();
             for (const QString& pair : value.split(QLatin1Char(','))) {
                 const QStringList parts = pair.split(QLatin1Char(':'));
                 bool yawOk = false, pitchOk = false;
                 const double yaw = parts.value(0).toDouble(&yawOk);
                 const double pitch = parts.value(1).toDouble(&pitchOk);
                 ok = ok && parts.size() == 2 && yawOk && pitchOk && std::fabs(pitch) <= 90.0;
-                spec->positions.append(QPointF(yaw, pitch));
+                plan->positions.append(QPointF(yaw, pitch));
             }
         } else if (option == QLatin1String("--overlap")) {
-            spec->overlap = real(5.0, 95.0);
+            plan->overlap = real(5.0, 95.0);
         } else if (option == QLatin1String("--order")) {
-            spec->order = -1;
+            plan->order = -1;
             for (int k = 0; k < 5; ++k)
                 if (value == QLatin1String(kOrderNames[k]))
-                    spec->order = k;
-            ok = spec->order >= 0;
+                    plan->order = k;
+            ok = plan->order >= 0;
         } else if (option == QLatin1String("--bracket")) {
-            spec->bracket = integer(1, 15);
+            plan->bracket = integer(1, 15);
         } else if (option == QLatin1String("--ev-step")) {
-            spec->evStep = real(0.1, 4.0);
+            plan->evStep = real(0.1, 4.0);
         } else if (option == QLatin1String("--size")) {
             const QStringList parts = value.split(QLatin1Char('x'));
             bool wOk = false, hOk = false;
-            spec->width = parts.value(0).toInt(&wOk);
-            spec->height = parts.value(1).toInt(&hOk);
-            ok = parts.size() == 2 && wOk && hOk && spec->height >= 16
-                && spec->width >= spec->height && spec->width <= 20000;
+            plan->width = parts.value(0).toInt(&wOk);
+            plan->height = parts.value(1).toInt(&hOk);
+            ok = parts.size() == 2 && wOk && hOk && plan->height >= 16
+                && plan->width >= plan->height && plan->width <= 20000;
         } else if (option == QLatin1String("--focal")) {
-            spec->focal35 = real(4.0, 2000.0);
+            plan->focal35 = real(4.0, 2000.0);
         } else if (option == QLatin1String("--crop-factor")) {
-            spec->cropFactor = real(0.5, 10.0);
+            plan->cropFactor = real(0.5, 10.0);
         } else if (option == QLatin1String("--portrait")) {
             ok = value == QLatin1String("turned") || value == QLatin1String("tagged");
-            spec->portrait = value == QLatin1String("turned") ? Portrait::Turned : Portrait::Tagged;
+            plan->portrait = value == QLatin1String("turned") ? Portrait::Turned : Portrait::Tagged;
         } else if (option == QLatin1String("--error")) {
-            spec->error = real(0.0, 20.0);
+            plan->error = real(0.0, 20.0);
         } else if (option == QLatin1String("--seed")) {
-            spec->seed = value.toUInt(&ok);
+            plan->seed = value.toUInt(&ok);
         } else if (option == QLatin1String("--scene-seed")) {
-            spec->sceneSeed = value.toUInt(&ok);
+            plan->sceneSeed = value.toUInt(&ok);
         } else if (option == QLatin1String("--scene-width")) {
-            spec->sceneWidth = integer(360, 30000);
+            plan->sceneWidth = integer(360, 30000);
         } else if (option == QLatin1String("--samples")) {
-            spec->samples = integer(1, 8);
+            plan->samples = integer(1, 8);
         } else if (option == QLatin1String("--quality")) {
-            spec->jpegQuality = integer(1, 100);
+            plan->jpegQuality = integer(1, 100);
         } else {
             *error = QStringLiteral("unknown option %1").arg(option);
             return false;
@@ -265,7 +265,7 @@ bool GeneratedShoot::write(const QString& folder, QString* error) const
         return false;
     }
     const QDir dir(folder);
-    const Spec& s = m_spec;
+    const Plan& s = m_plan;
     const bool standing = s.portrait != Portrait::No;
     const int across = standing ? s.height : s.width;
     const int up = standing ? s.width : s.height;
@@ -344,7 +344,7 @@ bool GeneratedShoot::write(const QString& folder, QString* error) const
 
 QString GeneratedShoot::papywizard(bool complete, const QString& title) const
 {
-    const Spec& s = m_spec;
+    const Plan& s = m_plan;
     QString text;
     QTextStream xml(&text);
     xml << "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<papywizard version=\"c\">\n";
@@ -413,12 +413,12 @@ QString GeneratedShoot::clauss() const
     // Absolute angles in whole degrees, then one op_shoot per photograph.
     QString text;
     QTextStream out(&text);
-    out << "; generated shoot: " << m_positions.size() << " positions, " << m_spec.bracket
+    out << "; generated shoot: " << m_positions.size() << " positions, " << m_plan.bracket
         << " per position\n";
     for (const Position& p : m_positions) {
         out << "op_h-angle=" << qRound(p.plannedYaw) << '\n'
             << "op_v-angle=" << qRound(p.plannedPitch) << '\n';
-        for (int b = 0; b < m_spec.bracket; ++b)
+        for (int b = 0; b < m_plan.bracket; ++b)
             out << "op_shoot\n";
     }
     out.flush();
@@ -427,7 +427,7 @@ QString GeneratedShoot::clauss() const
 
 QString GeneratedShoot::gigapanArguments() const
 {
-    const Spec& s = m_spec;
+    const Plan& s = m_plan;
     QStringList args;
     args << QStringLiteral("--rows") << QString::number(s.positions.isEmpty() ? s.rows : 1)
          << QStringLiteral("--bracket") << QString::number(s.bracket) << QStringLiteral("--order")
@@ -440,7 +440,7 @@ QString GeneratedShoot::gigapanArguments() const
 
 QString GeneratedShoot::options() const
 {
-    const Spec& s = m_spec;
+    const Plan& s = m_plan;
     QStringList args;
     if (s.positions.isEmpty()) {
         args << QStringLiteral("--rows %1 --columns %2").arg(s.rows).arg(s.columns);

@@ -35,7 +35,7 @@ public:
         Tagged
     };
 
-    struct Spec
+    struct Plan
     {
         int rows = 2;
         int columns = 4;
@@ -93,11 +93,11 @@ public:
         double truePitch = 0.0;
     };
 
-    explicit GeneratedShoot(const Spec& spec);
+    explicit GeneratedShoot(const Plan& plan);
 
-    /// Reads a Spec from command-line options (see usage()); false with a
+    /// Reads a Plan from command-line options (see usage()); false with a
     /// reason in *error.
-    static bool parse(const QStringList& arguments, Spec* spec, QString* error);
+    static bool parse(const QStringList& arguments, Plan* plan, QString* error);
     static QString usage();
 
     bool write(const QString& folder, QString* error) const;
@@ -113,7 +113,7 @@ private:
     QString gigapanArguments() const;
     QString options() const;
 
-    Spec m_spec;
+    Plan m_plan;
     QVector<Position> m_positions;
     double m_hfov = 0.0;
     double m_vfov = 0.0;

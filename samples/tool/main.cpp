@@ -37,22 +37,22 @@ int main(int argc, char** argv)
         return 0;
     }
     if (args.value(0) == QLatin1String("--generate")) {
-        GeneratedShoot::Spec spec;
+        GeneratedShoot::Plan plan;
         QString error;
         if (args.size() < 2 || args[1].startsWith(QLatin1String("--"))
-            || !GeneratedShoot::parse(args.mid(2), &spec, &error)) {
+            || !GeneratedShoot::parse(args.mid(2), &plan, &error)) {
             if (!error.isEmpty())
                 std::fprintf(stderr, "zph_make_sample: %s\n", qPrintable(error));
             std::fprintf(stderr, "%s", qPrintable(GeneratedShoot::usage()));
             return 2;
         }
-        const GeneratedShoot shoot(spec);
+        const GeneratedShoot shoot(plan);
         if (!shoot.write(args[1], &error)) {
             std::fprintf(stderr, "zph_make_sample: %s\n", qPrintable(error));
             return 1;
         }
         std::printf("zph_make_sample: wrote %d photographs to %s\n",
-            int(shoot.positions().size()) * spec.bracket, qPrintable(args[1]));
+            int(shoot.positions().size()) * plan.bracket, qPrintable(args[1]));
         return 0;
     }
     if (args.isEmpty() || args.size() == 2 || args.size() > 3
