@@ -3,10 +3,15 @@
 rendered them (its ground-truth.csv), once the one rotation of the whole
 panorama is taken out (the mean of the per-picture differences).
 
-    scripts/pto-angle-error.py <project.pto> <ground-truth.csv>
+    scripts/pto-angle-error.py <project.pto> <ground-truth.csv> [--true-angles <out.pto>]
 
 Prints "pictures N largest X roll Y" in degrees: X between where a picture
-looks and where it should, Y its largest turn about its view."""
+looks and where it should, Y its largest turn about its view.
+
+--true-angles writes a copy of the project (canvas, lenses, every other
+setting) whose pictures stand at their true angles, turned by the same one
+rotation of the whole panorama so that they fill the project's canvas as its
+own pictures do."""
 import csv
 import math
 import os
@@ -40,6 +45,37 @@ def camera(yaw, pitch, roll):
 def view(q):
     v = multiply(multiply(q, (0.0, 1.0, 0.0, 0.0)), conjugate(q))
     return v[1:]
+
+
+def angles(q):
+    """(yaw, pitch, roll) in degrees of a camera rotation, as camera() takes them."""
+    x, y, z = view(q)
+    pitch = math.degrees(math.asin(max(-1.0, min(1.0, z))))
+    yaw = math.degrees(math.atan2(-y, x))
+    d = multiply(conjugate(camera(yaw, pitch, 0.0)), q)
+    roll = math.degrees(2 * math.atan2(d[1], d[0]))
+    roll = (roll + 540.0) % 360.0 - 180.0
+    return yaw, pitch, roll
+
+
+def write_true_angles(path, out, rotation, truth):
+    """Copies the project at path to out with every picture's y, p and r set
+    to rotation applied to its true angles, and its file named by an absolute
+    path."""
+    folder = os.path.dirname(os.path.abspath(path))
+    lines = []
+    for line in open(path, encoding="utf-8"):
+        if line.startswith("i "):
+            name = re.search(r' n"([^"]*)"', line)
+            head, tail = line[:name.start()], line[name.end():]
+            values = angles(multiply(rotation, camera(*truth[os.path.basename(name.group(1))])))
+            for key, value in zip(("y", "p", "r"), values):
+                head = re.sub(r" %s=?[-0-9.e+]+" % key, " %s%.6f" % (key, value), head, count=1)
+            picture = os.path.normpath(os.path.join(folder, name.group(1)))
+            line = '%s n"%s"%s' % (head, picture, tail)
+        lines.append(line)
+    with open(out, "w", encoding="utf-8") as f:
+        f.writelines(lines)
 
 
 def read_project(path):
@@ -78,10 +114,16 @@ def read_truth(path):
 
 
 def main():
-    if len(sys.argv) != 3:
+    args = sys.argv[1:]
+    true_angles = None
+    if len(args) == 4 and args[2] == "--true-angles":
+        true_angles = args[3]
+        args = args[:2]
+    if len(args) != 2:
         sys.exit(__doc__)
-    project = read_project(sys.argv[1])
-    truth = read_truth(sys.argv[2])
+    project_path, truth_path = args
+    project = read_project(project_path)
+    truth = read_truth(truth_path)
     found, expected = [], []
     for name, yaw, pitch, roll in project:
         if name not in truth:
@@ -89,7 +131,7 @@ def main():
         found.append(camera(yaw, pitch, roll))
         expected.append(camera(*truth[name]))
     if not found:
-        sys.exit("no pictures in %s" % sys.argv[1])
+        sys.exit("no pictures in %s" % project_path)
     mean = [0.0] * 4
     first = None
     for f, e in zip(found, expected):
@@ -111,6 +153,8 @@ def main():
         largest = max(largest, off)
         largest_roll = max(largest_roll, roll)
     print("pictures %d largest %.3f roll %.3f" % (len(found), largest, largest_roll))
+    if true_angles:
+        write_true_angles(project_path, true_angles, mean, truth)
 
 
 if __name__ == "__main__":
