@@ -16,13 +16,14 @@
 # wall time. Times are the median of the runs, peak memory and angle error
 # the largest.
 #
-#   benchmarks/stitch/run.sh [--shoot sample|generated36] [--repeat N]
-#                            [--size WxH] [work folder]
+#   benchmarks/stitch/run.sh [--shoot sample|sample-references|generated36]
+#                            [--repeat N] [--size WxH] [work folder]
 #
 # sample       the bundled shoot (samples/sample-shoot, 10 positions × 3
 #              exposures, 400 × 300): ours on its 10 reference images imported
 #              as a Clauss script, ours on all 30 photographs (Papywizard
 #              record, exposures fused); stock and floor on the 10 references.
+# sample-references  the same without the 30 photographs' stitch.
 # generated36  a 360° shoot generated in the work folder: 3 rows × 12
 #              positions, one exposure, 1500 × 1000 (--size changes it), 35 mm;
 #              ours from its Papywizard record, stock and floor on the same 36
@@ -63,9 +64,9 @@ variant() {
       tool stitch "$ZPH_BENCH_PANOHEAD" stitch "$dir/shoot.pto"
       ;;
     stock)
-      local pictures=()
-      mapfile -t pictures < <(find "$ZPH_BENCH_REFERENCES" -maxdepth 1 -name '*.jpg' | sort)
-      tool pto_gen pto_gen -o 0-gen.pto "${pictures[@]}"
+      local photographs=()
+      mapfile -t photographs < <(find "$ZPH_BENCH_REFERENCES" -maxdepth 1 -name '*.jpg' | sort)
+      tool pto_gen pto_gen -o 0-gen.pto "${photographs[@]}"
       tool cpfind cpfind --multirow -o 1-cpfind.pto 0-gen.pto
       tool cpclean cpclean -o 2-cpclean.pto 1-cpfind.pto
       tool autooptimiser autooptimiser -a -m -l -s -o 3-opt.pto 2-cpclean.pto
@@ -91,7 +92,7 @@ if [[ ${1:-} == --variant ]]; then
 fi
 
 usage() {
-  sed -n '/^#   benchmarks/,/^#  *\[--size/p' "$0" | sed 's/^# \{0,1\}//'
+  sed -n '/^#   benchmarks/,/^#  *\[--repeat/p' "$0" | sed 's/^# \{0,1\}//'
   exit "$1"
 }
 
@@ -108,7 +109,7 @@ while [[ $# -gt 0 ]]; do
     *) break ;;
   esac
 done
-[[ $shoot == sample || $shoot == generated36 ]] || { echo "unknown shoot $shoot" >&2; usage 2; }
+[[ $shoot == sample || $shoot == sample-references || $shoot == generated36 ]] || { echo "unknown shoot $shoot" >&2; usage 2; }
 [[ $repeat =~ ^[1-9][0-9]*$ ]] || { echo "--repeat takes a whole number from 1" >&2; exit 2; }
 [[ $size =~ ^[1-9][0-9]*x[1-9][0-9]*$ ]] || { echo "--size takes WxH" >&2; exit 2; }
 work=${1:-/tmp/zph-stitch-bench}
@@ -132,7 +133,7 @@ work=$(cd "$work" && pwd)
 truth="$work/shoot/ground-truth.csv"
 mkdir -p "$work/shoot"
 
-if [[ $shoot == sample ]]; then
+if [[ $shoot == sample* ]]; then
   photos="$root/samples/sample-shoot"
   cp "$photos/ground-truth.csv" "$truth"
   export ZPH_BENCH_PHOTOS="$photos"
@@ -150,6 +151,7 @@ if [[ $shoot == sample ]]; then
     cp "$photos/$picture" "$ZPH_BENCH_REFERENCES/"
   done
   variants=(ours-clauss ours-papywizard stock floor-enblend floor-verdandi)
+  [[ $shoot == sample ]] || variants=(ours-clauss stock floor-enblend floor-verdandi)
   canvas_from=ours-clauss
 else
   echo "== building the shoot generator"

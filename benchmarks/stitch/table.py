@@ -103,7 +103,7 @@ def main():
     floor = min(floors, key=lambda n: summary[n]["cpu"]) if floors else None
     stock = summary.get("stock")
 
-    if args.shoot == "sample":
+    if args.shoot.startswith("sample"):
         shoot = "the bundled sample (10 positions × 3 exposures, 400 × 300)"
     else:
         shoot = "a generated 360° shoot (3 rows × 12 positions, one exposure, %s, 35 mm)" % (
