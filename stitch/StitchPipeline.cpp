@@ -3,6 +3,7 @@
 #include "ControlPointFilter.h"
 #include "DescriptionJson.h"
 #include "ImageSize.h"
+#include "PhotoFiles.h"
 #include "PtoProject.h"
 #include "ToolRunner.h"
 
@@ -10,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 #include <QVector>
 
@@ -649,9 +651,31 @@ QString withSuffix(const QString& project, const QString& suffix)
     return info.absoluteDir().filePath(info.completeBaseName() + suffix);
 }
 
+QString absolute(const QString& path, const QString& folder)
+{
+    return QFileInfo(QDir::isAbsolutePath(path) ? path : QDir(folder).filePath(path))
+        .absoluteFilePath();
+}
+
+/// A project that "panohead import" wrote starts with this comment line,
+/// followed by its numbers of stacks and images.
+const QRegularExpression ProjectSignature(
+    QStringLiteral("^# written by ZPanoHead: (\\d+) stacks, (\\d+) images"),
+    QRegularExpression::MultilineOption);
+
 } // namespace
 
+/// What check() read, kept for run().
+struct StitchPipeline::Checked
+{
+    Inputs inputs;
+    PtoProject project;
+    StructuredPanoramaProperties panorama;
+};
+
 StitchPipeline::StitchPipeline(const Options& options) : m_options(options) { }
+
+StitchPipeline::~StitchPipeline() = default;
 
 void StitchPipeline::setProgress(Progress progress)
 {
@@ -680,6 +704,84 @@ QStringList StitchPipeline::programs()
     return names;
 }
 
+bool StitchPipeline::check(QString* error)
+{
+    m_checked.reset();
+    const auto fail = [error](const QString& message) {
+        if (error)
+            *error = message;
+        return false;
+    };
+    auto checked = std::make_unique<Checked>();
+    Inputs& inputs = checked->inputs;
+    const QString& given = m_options.project;
+    const QFileInfo projectInfo(given);
+    if (!projectInfo.isFile())
+        return fail(projectInfo.isDir()
+                ? QStringLiteral("the project %1 is a folder, not a file").arg(given)
+                : QStringLiteral("cannot read the project %1: no such file").arg(given));
+    inputs.project = projectInfo.absoluteFilePath();
+    const QString folder = projectInfo.absolutePath();
+    QFile file(inputs.project);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(
+            QStringLiteral("cannot read the project %1: %2").arg(given, file.errorString()));
+    const QByteArray head = file.read(4096);
+    file.close();
+    const QRegularExpressionMatch signature = ProjectSignature.match(QString::fromUtf8(head));
+    if (!signature.hasMatch())
+        return fail(QStringLiteral("the project %1 was not written by panohead import "
+                                   "(no \"# written by ZPanoHead\" line); only its "
+                                   "projects can be stitched")
+                        .arg(given));
+    PtoProject& project = checked->project;
+    QString reason;
+    if (!project.read(inputs.project, &reason))
+        return fail(reason);
+
+    const QString description = m_options.description.isEmpty()
+        ? withSuffix(inputs.project, QStringLiteral(".json"))
+        : QFileInfo(m_options.description).absoluteFilePath();
+    StructuredPanoramaProperties& panorama = checked->panorama;
+    if (!DescriptionJson::read(description, &panorama, &reason))
+        return fail(reason);
+    int described = 0;
+    for (const QStringList& stack : panorama.m_stacks)
+        described += stack.size();
+    const int stacks = signature.captured(1).toInt();
+    if (panorama.m_stacks.size() != stacks || described != project.imageCount())
+        return fail(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
+                                   "fit the project %4 (%5 stacks, %6 images)")
+                        .arg(description)
+                        .arg(panorama.m_stacks.size())
+                        .arg(described)
+                        .arg(given)
+                        .arg(stacks)
+                        .arg(project.imageCount()));
+    inputs.description = description;
+    for (int i = 0; i < project.imageCount(); ++i) {
+        const QString photo = absolute(project.imageName(i), folder);
+        const QString problem = PhotoFiles::problem(photo);
+        if (!problem.isEmpty())
+            return fail(QStringLiteral("the project's photograph %1 cannot be used: %2")
+                            .arg(photo, problem));
+        inputs.photographs << photo;
+    }
+    inputs.hdr = m_options.mode == Output::Hdr
+        || (m_options.mode == Output::Automatic && checked->panorama.m_outputMode == 3);
+    inputs.panorama = m_options.output.isEmpty()
+        ? withSuffix(inputs.project, inputs.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"))
+        : QFileInfo(m_options.output).absoluteFilePath();
+    m_checked = std::move(checked);
+    return true;
+}
+
+const StitchPipeline::Inputs& StitchPipeline::inputs() const
+{
+    static const Inputs none;
+    return m_checked ? m_checked->inputs : none;
+}
+
 StitchPipeline::Result StitchPipeline::run()
 {
     QElapsedTimer total;
@@ -691,28 +793,23 @@ StitchPipeline::Result StitchPipeline::run()
         result.elapsedMilliseconds = total.elapsed();
         return result;
     };
+    QString error;
+    if (!m_checked && !check(&error))
+        return finish(Result::Failed, error);
+    const Checked& checked = *m_checked;
     Stitch s;
     s.options = m_options;
     s.tools = ToolRunner(m_options.tools);
     s.stop = &m_cancelled;
+    s.currentProject = checked.project;
+    s.panorama = checked.panorama;
     Options& o = s.options;
+    o.project = checked.inputs.project;
+    o.description = checked.inputs.description;
+    o.output = checked.inputs.panorama;
     const QFileInfo projectInfo(o.project);
-    if (!projectInfo.isFile())
-        return finish(Result::Failed,
-            QStringLiteral("cannot read the project %1: no such file").arg(o.project));
-    o.project = projectInfo.absoluteFilePath();
-    if (o.description.isEmpty())
-        o.description = withSuffix(o.project, QStringLiteral(".json"));
-    QString error;
-    if (!s.currentProject.read(o.project, &error))
-        return finish(Result::Failed, error);
-    if (!DescriptionJson::read(o.description, &s.panorama, &error))
-        return finish(Result::Failed, error);
-    s.hdr = o.mode == Output::Hdr || (o.mode == Output::Automatic && s.panorama.m_outputMode == 3);
+    s.hdr = checked.inputs.hdr;
     result.hdr = s.hdr;
-    if (o.output.isEmpty())
-        o.output = withSuffix(o.project, s.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"));
-    o.output = QFileInfo(o.output).absoluteFilePath();
     s.fusedOutput = o.output;
     const QString suffix = QFileInfo(o.output).suffix().toLower();
     if (s.hdr && suffix != QLatin1String("exr") && suffix != QLatin1String("tif")

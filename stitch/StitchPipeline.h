@@ -22,6 +22,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 
 class StitchPipeline
 {
@@ -119,9 +120,33 @@ public:
         bool succeeded() const { return outcome == Succeeded; }
     };
 
+    /// What the checks before the first step found: the inputs, resolved.
+    struct Inputs
+    {
+        /// Absolute, like every path here.
+        QString project;
+        QString description;
+        /// The project's photographs, in its order.
+        QStringList photographs;
+        /// The panorama is floating point (OpenEXR or float TIFF).
+        bool hdr = false;
+        /// Options::output, or the project's name with ".tif" (HDR ".exr").
+        QString panorama;
+    };
+
     explicit StitchPipeline(const Options& options);
+    ~StitchPipeline();
     StitchPipeline(const StitchPipeline&) = delete;
     StitchPipeline& operator=(const StitchPipeline&) = delete;
+
+    /// Reads the project (one written by "panohead import") and its
+    /// description, and checks that they fit and that every photograph can
+    /// be read. run() starts with these checks unless they were made; made
+    /// before run(), they let a caller check its outputs against the inputs.
+    /// False with one line naming the file and the reason in *error.
+    bool check(QString* error);
+    /// Valid once check() succeeded.
+    const Inputs& inputs() const;
 
     /// Called on run()'s thread when a step starts and when it ends. Set it
     /// before run().
@@ -144,7 +169,10 @@ public:
     static QStringList programs();
 
 private:
+    struct Checked;
+
     Options m_options;
     Progress m_progress;
     std::atomic<bool> m_cancelled { false };
+    std::unique_ptr<Checked> m_checked;
 };

@@ -23,7 +23,8 @@ using Result = StitchPipeline::Result;
 
 /// Three stacks of one picture each: stacks 0 and 1 (yaw 0 and 40) are
 /// linked, stack 2 (yaw 160) is not.
-const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+const char ProjectText[] = "# written by ZPanoHead: 3 stacks, 3 images, 1 authorised links\n"
+                           "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
                            "m i0\n"
                            "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
                            "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
@@ -31,16 +32,18 @@ const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CRO
                            "v r1 p1 y1\nv r2 p2 y2\nv\n";
 
 /// The same three positions with two exposures each; the second of a stack
-/// is hard-linked to the first.
-const char StackedProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
-                                  "m i0\n"
-                                  "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 n\"P1b.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 n\"P2b.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 n\"P3b.jpg\"\n"
-                                  "v r2 p2 y2\nv r4 p4 y4\nv\n";
+/// is hard-linked to the first and shares its stack number.
+const char StackedProjectText[]
+    = "# written by ZPanoHead: 3 stacks, 6 images, 1 authorised links\n"
+      "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+      "m i0\n"
+      "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 j0 n\"P1.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 j=0 n\"P1b.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 j1 n\"P2.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 j=2 n\"P2b.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 j2 n\"P3.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 j=4 n\"P3b.jpg\"\n"
+      "v r2 p2 y2\nv r4 p4 y4\nv\n";
 
 /// What the stitch is given besides the stand-ins.
 struct Shoot
@@ -197,6 +200,12 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
         if (shoot.stacked)
             stack << folder.filePath(QLatin1String(name) + QStringLiteral("b.jpg"));
         panorama.m_stacks << stack;
+        // The stand-ins never read a photograph; the stitch checks it is there.
+        for (const QString& photo : stack) {
+            QFile file(photo);
+            if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1)
+                return options;
+        }
     }
     AuthorizedLink link;
     link.m_direction = 2;
@@ -392,6 +401,9 @@ void tst_StitchPipeline::beforeTheSteps_data()
                              << "cannot read the project %1/shoot.pto: no such file";
     QTest::newRow("program") << "tools/nona"
                              << "Hugin's program nona is not found in %1/tools";
+    QTest::newRow("photograph") << "P2.jpg"
+                                << "the project's photograph %1/P2.jpg cannot be used: no such "
+                                   "file";
 }
 
 void tst_StitchPipeline::beforeTheSteps()
@@ -598,6 +610,8 @@ void tst_StitchPipeline::render()
     QStringList expected = { panorama };
     if (!preview.isEmpty())
         expected << preview;
+    // Besides the shoot's photographs.
+    expected << folder.entryList({ QStringLiteral("P?.jpg"), QStringLiteral("P?b.jpg") });
     std::sort(left.begin(), left.end());
     std::sort(expected.begin(), expected.end());
     QCOMPARE(left, expected);

@@ -254,6 +254,9 @@ QString tst_StitchRender::makeShoot(
             variables << QStringLiteral("v r%1 p%1 y%1").arg(i);
     }
     lines << variables << QStringLiteral("v");
+    lines.prepend(QStringLiteral("# written by ZPanoHead: %1 stacks, %2 images, 1 authorised links")
+                      .arg(panorama.m_stacks.size())
+                      .arg(shots.size()));
     AuthorizedLink link;
     link.m_direction = 2;
     link.m_stackIndices = { 0, 1 };
