@@ -72,7 +72,9 @@ Failure check(
         return inputError(error);
     const StitchPipeline::Inputs& checked = pipeline.inputs();
     *panorama = checked.panorama;
-    QStringList inputs = { checked.project, checked.description };
+    QStringList inputs = { checked.project };
+    if (!checked.description.isEmpty())
+        inputs << checked.description;
     inputs << checked.photographs;
     for (const QString& input : inputs) {
         if (OutputFiles::sameFile(*panorama, input))
@@ -137,7 +139,9 @@ QString StitchCommand::help()
                "\n"
                "Options:\n"
                "  --description <file.json> the panorama description (default: beside the\n"
-               "                            project, same name)\n"
+               "                            project, same name; when there is none, the\n"
+               "                            project's stacks are kept and every pair of\n"
+               "                            pictures is searched for control points)\n"
                "  -o, --output <file>       the panorama, .tif or .jpg; with --hdr .exr or .tif\n"
                "                            (default: <name>.tif, with --hdr <name>.exr,\n"
                "                            beside the project)\n"
@@ -231,6 +235,10 @@ int StitchCommand::stitch(const Options& options, bool force, Console& console)
     const Failure checked = check(pipeline, options, force, &panorama);
     if (checked.code != ExitCode::Done)
         return fail(checked);
+    if (!pipeline.inputs().note.isEmpty()) {
+        console.err << "panohead stitch: " << pipeline.inputs().note << '\n';
+        console.err.flush();
+    }
     OutputFiles::FolderLock lock;
     QString error;
     if (!lock.lock(QFileInfo(panorama).absolutePath(), &error))

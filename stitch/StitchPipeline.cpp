@@ -11,12 +11,14 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 #include <QVector>
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -663,6 +665,43 @@ const QRegularExpression ProjectSignature(
     QStringLiteral("^# written by ZPanoHead: (\\d+) stacks, (\\d+) images"),
     QRegularExpression::MultilineOption);
 
+/// The description of a project that has none: the stacks the project
+/// records (images of one stack number j, its first image the reference;
+/// an image without one is a stack of its own), every pair of stacks linked,
+/// control points looked for between every pair of pictures whatever their
+/// recorded positions.
+StructuredPanoramaProperties everyPairLinked(const PtoProject& project, const QString& folder)
+{
+    StructuredPanoramaProperties panorama;
+    QHash<qint64, int> stackOfNumber;
+    for (int i = 0; i < project.imageCount(); ++i) {
+        bool ok = false;
+        const double number = project.number(i, QStringLiteral("j"), &ok);
+        const bool numbered = ok && std::fabs(number) < 1e9 && number == std::floor(number);
+        const auto found
+            = numbered ? stackOfNumber.constFind(qint64(number)) : stackOfNumber.constEnd();
+        int stack = found == stackOfNumber.constEnd() ? panorama.m_stacks.size() : found.value();
+        if (stack == panorama.m_stacks.size()) {
+            panorama.m_stacks << QStringList();
+            if (numbered)
+                stackOfNumber.insert(qint64(number), stack);
+        }
+        panorama.m_stacks[stack] << absolute(project.imageName(i), folder);
+    }
+    for (int a = 0; a < panorama.m_stacks.size(); ++a) {
+        for (int b = a + 1; b < panorama.m_stacks.size(); ++b) {
+            AuthorizedLink link;
+            link.m_stackIndices = { a, b };
+            panorama.m_links << link;
+        }
+    }
+    panorama.m_autoDetection = true;
+    panorama.m_useRecordedLocation = false;
+    panorama.m_stackLinking = 1;
+    panorama.m_levelLinking = 1;
+    return panorama;
+}
+
 } // namespace
 
 /// What check() read, kept for run().
@@ -742,23 +781,33 @@ bool StitchPipeline::check(QString* error)
     const QString description = m_options.description.isEmpty()
         ? withSuffix(inputs.project, QStringLiteral(".json"))
         : QFileInfo(m_options.description).absoluteFilePath();
-    StructuredPanoramaProperties& panorama = checked->panorama;
-    if (!DescriptionJson::read(description, &panorama, &reason))
-        return fail(reason);
-    int described = 0;
-    for (const QStringList& stack : panorama.m_stacks)
-        described += stack.size();
-    const int stacks = signature.captured(1).toInt();
-    if (panorama.m_stacks.size() != stacks || described != project.imageCount())
-        return fail(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
-                                   "fit the project %4 (%5 stacks, %6 images)")
-                        .arg(description)
-                        .arg(panorama.m_stacks.size())
-                        .arg(described)
-                        .arg(given)
-                        .arg(stacks)
-                        .arg(project.imageCount()));
-    inputs.description = description;
+    // A description named on purpose must be there; the one beside the
+    // project may be missing (a dangling link to one is not missing).
+    const QFileInfo descriptionInfo(description);
+    if (m_options.description.isEmpty() && !descriptionInfo.exists()
+        && !descriptionInfo.isSymLink()) {
+        checked->panorama = everyPairLinked(project, folder);
+        inputs.note = QStringLiteral("no description beside %1: every pair of pictures is searched")
+                          .arg(given);
+    } else {
+        StructuredPanoramaProperties& panorama = checked->panorama;
+        if (!DescriptionJson::read(description, &panorama, &reason))
+            return fail(reason);
+        int described = 0;
+        for (const QStringList& stack : panorama.m_stacks)
+            described += stack.size();
+        const int stacks = signature.captured(1).toInt();
+        if (panorama.m_stacks.size() != stacks || described != project.imageCount())
+            return fail(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
+                                       "fit the project %4 (%5 stacks, %6 images)")
+                            .arg(description)
+                            .arg(panorama.m_stacks.size())
+                            .arg(described)
+                            .arg(given)
+                            .arg(stacks)
+                            .arg(project.imageCount()));
+        inputs.description = description;
+    }
     for (int i = 0; i < project.imageCount(); ++i) {
         const QString photo = absolute(project.imageName(i), folder);
         const QString problem = PhotoFiles::problem(photo);
@@ -808,6 +857,7 @@ StitchPipeline::Result StitchPipeline::run()
     o.description = checked.inputs.description;
     o.output = checked.inputs.panorama;
     const QFileInfo projectInfo(o.project);
+    result.note = checked.inputs.note;
     s.hdr = checked.inputs.hdr;
     result.hdr = s.hdr;
     s.fusedOutput = o.output;

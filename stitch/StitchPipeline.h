@@ -41,7 +41,14 @@ public:
     {
         /// The imported Hugin project.
         QString project;
-        /// The JSON description beside it; empty: the project's name with ".json".
+        /// The JSON description; empty: the project's name with ".json"
+        /// beside it, or none when there is no such file. Without a
+        /// description the stacks are those the project records (its stack
+        /// numbers; without one a picture is a stack of its own), every pair
+        /// of stacks is linked, every pair of pictures is searched for
+        /// control points (as without "Use recorded location", with links
+        /// in all stack levels and control points inside stacks) and the
+        /// other options are the forms' defaults with "Auto detection".
         QString description;
         /// The panorama file: .tif or .jpg; for HDR .exr or .tif (32-bit
         /// float). Empty: the project's name with ".tif", for HDR with ".exr".
@@ -115,6 +122,9 @@ public:
         QString stitchedProject;
         /// Absolute; empty only when the project file does not exist.
         QString workFolder;
+        /// One line for the person who asked for the stitch, e.g. that the
+        /// project has no description; empty when there is nothing to say.
+        QString note;
         qint64 elapsedMilliseconds = 0;
 
         bool succeeded() const { return outcome == Succeeded; }
@@ -125,6 +135,7 @@ public:
     {
         /// Absolute, like every path here.
         QString project;
+        /// Empty when the project has no description.
         QString description;
         /// The project's photographs, in its order.
         QStringList photographs;
@@ -132,6 +143,8 @@ public:
         bool hdr = false;
         /// Options::output, or the project's name with ".tif" (HDR ".exr").
         QString panorama;
+        /// As Result::note.
+        QString note;
     };
 
     explicit StitchPipeline(const Options& options);

@@ -147,6 +147,9 @@ private slots:
     void failure();
     void beforeTheSteps_data();
     void beforeTheSteps();
+    void namedDescriptionMissing();
+    void withoutDescription_data();
+    void withoutDescription();
     void endsTheProcessGroup_data();
     void endsTheProcessGroup();
     void cancelBeforeRun();
@@ -422,6 +425,95 @@ void tst_StitchPipeline::beforeTheSteps()
     QCOMPARE(result.step, 0);
     QCOMPARE(result.error, error.arg(folder.absolutePath()));
     QVERIFY(worker.events().isEmpty());
+}
+
+void tst_StitchPipeline::namedDescriptionMissing()
+{
+    StitchPipeline::Options options = makeStitch({});
+    QVERIFY(!options.project.isEmpty());
+    const QDir folder = QFileInfo(options.project).absoluteDir();
+    options.description = folder.filePath(QStringLiteral("other.json"));
+    StitchPipeline pipeline(options);
+    QString error;
+    QVERIFY(!pipeline.check(&error));
+    QCOMPARE(error,
+        QStringLiteral("cannot read %1: No such file or directory").arg(options.description));
+    const Result result = pipeline.run();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 0);
+    QCOMPARE(result.error, error);
+}
+
+void tst_StitchPipeline::withoutDescription_data()
+{
+    QTest::addColumn<bool>("described");
+    QTest::addColumn<bool>("stacked");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("kept");
+    QTest::addColumn<QString>("fused");
+    // Single pictures: the point between images 1 and 2 joins stacks the
+    // description does not link. Stacks: images 0 and 1 are the first
+    // stack's, image 2 the second's first.
+    QTest::newRow("described") << true << false << "--prealigned"
+                               << "1 points kept, 1 removed (stacks 1-2)" << QString();
+    QTest::newRow("alone") << false << false << "--multirow"
+                           << "2 points kept, 0 removed" << QString();
+    QTest::newRow("alone, stacks") << false << true << "--multirow"
+                                   << "2 points kept, 0 removed"
+                                   << "3 stacks";
+}
+
+void tst_StitchPipeline::withoutDescription()
+{
+    QFETCH(bool, described);
+    QFETCH(bool, stacked);
+    QFETCH(QString, search);
+    QFETCH(QString, kept);
+    QFETCH(QString, fused);
+    Shoot shoot;
+    shoot.stacked = stacked;
+    // cpfind keeps its arguments beside its output.
+    StitchPipeline::Options options = makeStitch(
+        { { QStringLiteral("cpfind"),
+            QStringLiteral(
+                "echo \"$*\" > \"$out.arguments\"; cp \"$last\" \"$out\"\n"
+                "printf 'c n0 N1 x1 y1 X2 Y2 t0\\nc n1 N2 x1 y1 X2 Y2 t0\\n' >> \"$out\"") } },
+        shoot);
+    QVERIFY(!options.project.isEmpty());
+    const QDir folder = QFileInfo(options.project).absoluteDir();
+    if (!described)
+        QVERIFY(QFile::remove(folder.filePath(QStringLiteral("shoot.json"))));
+    StitchPipeline pipeline(options);
+    QString error;
+    QVERIFY2(pipeline.check(&error), qPrintable(error));
+    const QString note = described
+        ? QString()
+        : QStringLiteral("no description beside %1: every pair of pictures is searched")
+              .arg(options.project);
+    QCOMPARE(pipeline.inputs().note, note);
+    QCOMPARE(pipeline.inputs().description.isEmpty(), !described);
+    QCOMPARE(pipeline.inputs().photographs.size(), stacked ? 6 : 3);
+    QCOMPARE(pipeline.inputs().photographs.first(), folder.filePath(QStringLiteral("P1.jpg")));
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QCOMPARE(result.note, note);
+    QCOMPARE(result.stepCount, AllTools.size() + (stacked ? 1 : 0));
+    const QVector<StepEvent>& events = worker.events();
+    const auto noteOf = [&events](const char* tool) {
+        for (const StepEvent& event : events) {
+            if (event.tool == QLatin1String(tool) && event.phase == StepEvent::Done)
+                return event.note;
+        }
+        return QString();
+    };
+    QCOMPARE(noteOf("links"), kept);
+    QCOMPARE(noteOf("enfuse"), fused);
+    QFile arguments(QDir(result.workFolder).filePath(QStringLiteral("01-cpfind.pto.arguments")));
+    QVERIFY(arguments.open(QIODevice::ReadOnly));
+    const QStringList words = QString::fromUtf8(arguments.readAll()).split(QLatin1Char(' '));
+    QVERIFY2(words.contains(search), qPrintable(words.join(QLatin1Char(' '))));
 }
 
 void tst_StitchPipeline::endsTheProcessGroup_data()
