@@ -209,10 +209,12 @@ Failure chooseGridLens(const ImportRequest& r, const StructuredPanoramaPropertie
 {
     QVector<int> missing;
     const QList<ZIImageDef*> defs = photos.list(offset, count);
-    const PhotoFocal::Choice described = PhotoFocal::ForDescription(record, defs);
-    const double fromImages = PhotoFocal::MeanOverKnown(defs, &missing);
+    const int imageLens = PhotoFocal::LastLens(defs, LensStandard);
+    const PhotoFocal::Choice described
+        = PhotoFocal::ForDescription(record, PhotoFocal::MeanOverKnown(defs, &missing), imageLens);
     if (r.focal == QLatin1String("auto") || r.focal == QLatin1String("images")) {
-        if (!(fromImages > 0.0) && !(described.focal > 0.0))
+        // The description's focal, else the photographs' mean.
+        if (!(described.focal > 0.0))
             return QStringLiteral("no focal length: the photographs give none; use --focal");
         chosen->focal = described.focal;
         chosen->source = described.fromPhotos ? QStringLiteral("from the photographs")
@@ -227,7 +229,7 @@ Failure chooseGridLens(const ImportRequest& r, const StructuredPanoramaPropertie
     else if (r.lens == QLatin1String("fisheye"))
         chosen->lens = LensFisheye;
     else if (r.lens == QLatin1String("images"))
-        chosen->lens = lensOf(PhotoFocal::LastLens(defs, LensStandard));
+        chosen->lens = lensOf(imageLens);
     else
         chosen->lens = lensOf(described.lens);
     return {};

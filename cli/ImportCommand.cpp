@@ -1,12 +1,9 @@
 #include "ImportCommand.h"
 
-#include "DescriptionJson.h"
 #include "ExitCode.h"
 #include "FormLimits.h"
 #include "HeadImport.h"
-#include "HuginProjectWriter.h"
-#include "LayoutPicture.h"
-#include "OutputFiles.h"
+#include "ImportOutputs.h"
 #include "PhotoFiles.h"
 #include "StitchCommand.h"
 #include "StopSignals.h"
@@ -14,7 +11,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QXmlStreamReader>
 
 #include <cmath>
@@ -368,34 +364,20 @@ Failure checkImported(const Choices& c, const ImportOutcome& imported)
 
 Failure runImport(const Choices& c, Console& console)
 {
-    const QString folderPath = QFileInfo(c.outputFolder).absoluteFilePath();
-    const QDir folder(folderPath);
     QString name = c.name;
     if (name.isEmpty())
         name = HasRecord(c.request.head) ? QFileInfo(c.request.record).completeBaseName()
                                          : QStringLiteral("panorama");
-    const QString project = folder.filePath(name + QStringLiteral(".pto"));
-    const QString description = folder.filePath(name + QStringLiteral(".json"));
-    const QString layout = folder.filePath(name + QStringLiteral("-layout.png"));
-    const QStringList outputs = { project, description, layout };
+    const ImportOutputs outputs(c.outputFolder, name);
 
     // Nothing is read or written before the command line is known to be sound.
     QStringList inputs = c.request.photoArguments;
     if (HasRecord(c.request.head))
         inputs.prepend(c.request.record);
-    for (const QString& output : outputs) {
-        for (const QString& input : inputs) {
-            if (OutputFiles::sameFile(output, input))
-                return usage(QStringLiteral("the output %1 is one of the inputs (%2)")
-                                 .arg(QDir::toNativeSeparators(output), input));
-        }
-    }
     QString error;
-    if (!OutputFiles::checkFolder(c.outputFolder, QStringLiteral("output folder"), &error))
-        return inputError(error);
-    const QString present = OutputFiles::existing(outputs, c.force);
-    if (!present.isEmpty())
-        return inputError(OutputFiles::existsMessage(present));
+    const int checked = outputs.check(inputs, c.force, &error);
+    if (checked != ExitCode::Done)
+        return { checked, error };
     if (HasRecord(c.request.head)) {
         const Failure f = checkRecord(c.request.head, c.request.record);
         if (f.code)
@@ -413,76 +395,27 @@ Failure runImport(const Choices& c, Console& console)
     if (f.code)
         return f;
 
-    QString projectText;
-    if (!HuginProjectWriter(imported.input).text(folderPath, &projectText, &error))
-        return inputError(error);
-    const QByteArray projectBytes = projectText.toUtf8();
-    const QByteArray descriptionBytes
-        = QJsonDocument(DescriptionJson::toJson(imported.input.panorama))
-              .toJson(QJsonDocument::Indented);
-    const QImage picture = LayoutPicture::render(imported.input);
-    if (picture.isNull())
-        return inputError(QStringLiteral("the panorama has no stack to draw"));
-
-    const bool folderExisted = QFileInfo(folderPath).isDir();
-    if (!QDir().mkpath(folderPath))
-        return inputError(QStringLiteral("cannot create the output folder %1").arg(c.outputFolder));
-    // A failed or stopped import leaves no empty folder of its own behind.
-    struct RemoveIfEmpty
-    {
-        QString folder;
-        bool keep;
-        ~RemoveIfEmpty()
-        {
-            if (!keep)
-                QDir().rmdir(folder);
-        }
-    } created { folderPath, folderExisted };
-    {
-        OutputFiles::FolderLock lock;
-        if (!lock.lock(folderPath, &error))
-            return inputError(error);
-        // Another run may have finished in this folder while this one read.
-        const QString written = OutputFiles::existing(outputs, c.force);
-        if (!written.isEmpty())
-            return inputError(OutputFiles::existsMessage(written));
-        OutputFiles::FileSet files;
-        const auto bytes = [](const QByteArray& data) {
-            return [data](QIODevice* device) { return device->write(data) == data.size(); };
-        };
-        if (!files.add(project, bytes(projectBytes), &error)
-            || !files.add(description, bytes(descriptionBytes), &error)
-            || !files.add(
-                layout, [&picture](QIODevice* device) { return picture.save(device, "PNG"); },
-                &error))
-            return inputError(error);
-        if (StopSignals::received()) {
-            files.discard();
-            return { StopSignals::exitCode(), QStringLiteral("stopped") };
-        }
-        if (!files.commit(&error))
-            return inputError(error);
-        created.keep = true;
-    }
+    const int written = outputs.write(imported.input, c.force, &error);
+    if (written != ExitCode::Done)
+        return { written, error };
 
     const StructuredPanoramaProperties& p = imported.input.panorama;
-    console.out << imported.summary << '\n'
-                << QStringLiteral("%1, %2, %3")
-                       .arg(HeadImport::CountText(p.m_stacks.size(), "stack", "stacks"),
-                           HeadImport::CountText(
-                               imported.input.images.size(), "photograph", "photographs"),
-                           HeadImport::CountText(
-                               p.m_links.size(), "authorised link", "authorised links"))
-                << '\n'
-                << "Hugin project:    " << QDir::toNativeSeparators(project) << '\n'
-                << "Description:      " << QDir::toNativeSeparators(description) << '\n'
-                << "Layout picture:   " << QDir::toNativeSeparators(layout) << '\n';
+    console.out
+        << imported.summary << '\n'
+        << QStringLiteral("%1, %2, %3")
+               .arg(HeadImport::CountText(p.m_stacks.size(), "stack", "stacks"),
+                   HeadImport::CountText(imported.input.images.size(), "photograph", "photographs"),
+                   HeadImport::CountText(p.m_links.size(), "authorised link", "authorised links"))
+        << '\n'
+        << "Hugin project:    " << QDir::toNativeSeparators(outputs.project()) << '\n'
+        << "Description:      " << QDir::toNativeSeparators(outputs.description()) << '\n'
+        << "Layout picture:   " << QDir::toNativeSeparators(outputs.layout()) << '\n';
     console.out.flush();
 
     if (c.stitch) {
         StitchCommand::Options options;
-        options.project = project;
-        options.description = description;
+        options.project = outputs.project();
+        options.description = outputs.description();
         options.tools = c.tools;
         const int code = StitchCommand::stitch(options, c.force, console);
         if (code != ExitCode::Done)

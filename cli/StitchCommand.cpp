@@ -1,17 +1,13 @@
 #include "StitchCommand.h"
 
-#include "DescriptionJson.h"
 #include "ExitCode.h"
 #include "OutputFiles.h"
-#include "PhotoFiles.h"
-#include "PtoProject.h"
 #include "StopSignals.h"
 #include "ToolRunner.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <signal.h>
 
@@ -53,12 +49,6 @@ void print(Console& console, const StitchPipeline::StepEvent& event)
     console.out.flush();
 }
 
-/// A project that "panohead import" wrote starts with this comment line,
-/// followed by its numbers of stacks and images.
-const QRegularExpression ProjectSignature(
-    QStringLiteral("^# written by ZPanoHead: (\\d+) stacks, (\\d+) images"),
-    QRegularExpression::MultilineOption);
-
 struct Failure
 {
     int code = ExitCode::Done;
@@ -70,81 +60,22 @@ Failure inputError(const QString& message)
     return { ExitCode::InputError, message };
 }
 
-QString absolute(const QString& path, const QString& folder)
+/// Everything the stitch can check before a tool runs: the pipeline's checks
+/// of the project, its description and its photographs, then those of the
+/// command line: the panorama can be written and is none of the inputs,
+/// Hugin's programs are found.
+Failure check(
+    StitchPipeline& pipeline, const StitchCommand::Options& o, bool force, QString* panorama)
 {
-    return QFileInfo(QDir::isAbsolutePath(path) ? path : QDir(folder).filePath(path))
-        .absoluteFilePath();
-}
-
-QString withSuffix(const QString& project, const QString& suffix)
-{
-    const QFileInfo info(project);
-    return info.absoluteDir().filePath(info.completeBaseName() + suffix);
-}
-
-/// Everything the stitch can check before a tool runs: the project is ours
-/// and fits its description, its photographs are there, the panorama can be
-/// written and is none of the inputs, Hugin's programs are found.
-Failure check(const StitchCommand::Options& o, bool force, QString* panorama)
-{
-    const QFileInfo projectInfo(o.project);
-    if (!projectInfo.isFile())
-        return inputError(projectInfo.isDir()
-                ? QStringLiteral("the project %1 is a folder, not a file").arg(o.project)
-                : QStringLiteral("cannot read the project %1: no such file").arg(o.project));
-    const QString projectPath = projectInfo.absoluteFilePath();
-    const QString folder = projectInfo.absolutePath();
-    QFile file(projectPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return inputError(
-            QStringLiteral("cannot read the project %1: %2").arg(o.project, file.errorString()));
-    const QByteArray head = file.read(4096);
-    file.close();
-    const QRegularExpressionMatch signature = ProjectSignature.match(QString::fromUtf8(head));
-    if (!signature.hasMatch())
-        return inputError(QStringLiteral("the project %1 was not written by panohead import "
-                                         "(no \"# written by ZPanoHead\" line); only its "
-                                         "projects can be stitched")
-                              .arg(o.project));
-    PtoProject project;
     QString error;
-    if (!project.read(projectPath, &error))
+    if (!pipeline.check(&error))
         return inputError(error);
-    const QString descriptionPath = o.description.isEmpty()
-        ? withSuffix(projectPath, QStringLiteral(".json"))
-        : QFileInfo(o.description).absoluteFilePath();
-    StructuredPanoramaProperties description;
-    if (!DescriptionJson::read(descriptionPath, &description, &error))
-        return inputError(error);
-    int described = 0;
-    for (const QStringList& stack : description.m_stacks)
-        described += stack.size();
-    const int stacks = signature.captured(1).toInt();
-    if (description.m_stacks.size() != stacks || described != project.imageCount())
-        return inputError(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
-                                         "fit the project %4 (%5 stacks, %6 images)")
-                              .arg(descriptionPath)
-                              .arg(description.m_stacks.size())
-                              .arg(described)
-                              .arg(o.project)
-                              .arg(stacks)
-                              .arg(project.imageCount()));
-    QStringList inputs = { projectPath, descriptionPath };
-    for (int i = 0; i < project.imageCount(); ++i) {
-        const QString photo = absolute(project.imageName(i), folder);
-        const QString problem = PhotoFiles::problem(photo);
-        if (!problem.isEmpty())
-            return inputError(QStringLiteral("the project's photograph %1 cannot be used: %2")
-                                  .arg(photo, problem));
-        inputs << photo;
-    }
-
-    // As the pipeline names it: an HDR panorama is OpenEXR unless -o says otherwise.
-    const bool hdr = o.mode == StitchPipeline::Output::Hdr
-        || (o.mode == StitchPipeline::Output::Automatic && description.m_outputMode == 3);
-    *panorama = o.output.isEmpty()
-        ? withSuffix(projectPath, hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"))
-        : QFileInfo(o.output).absoluteFilePath();
+    const StitchPipeline::Inputs& checked = pipeline.inputs();
+    *panorama = checked.panorama;
+    QStringList inputs = { checked.project };
+    if (!checked.description.isEmpty())
+        inputs << checked.description;
+    inputs << checked.photographs;
     for (const QString& input : inputs) {
         if (OutputFiles::sameFile(*panorama, input))
             return { ExitCode::UsageError,
@@ -208,7 +139,9 @@ QString StitchCommand::help()
                "\n"
                "Options:\n"
                "  --description <file.json> the panorama description (default: beside the\n"
-               "                            project, same name)\n"
+               "                            project, same name; when there is none, the\n"
+               "                            project's stacks are kept and every pair of\n"
+               "                            pictures is searched for control points)\n"
                "  -o, --output <file>       the panorama, .tif or .jpg; with --hdr .exr or .tif\n"
                "                            (default: <name>.tif, with --hdr <name>.exr,\n"
                "                            beside the project)\n"
@@ -297,10 +230,15 @@ int StitchCommand::stitch(const Options& options, bool force, Console& console)
         console.err.flush();
         return f.code;
     };
+    StitchPipeline pipeline(options);
     QString panorama;
-    const Failure checked = check(options, force, &panorama);
+    const Failure checked = check(pipeline, options, force, &panorama);
     if (checked.code != ExitCode::Done)
         return fail(checked);
+    if (!pipeline.inputs().note.isEmpty()) {
+        console.err << "panohead stitch: " << pipeline.inputs().note << '\n';
+        console.err.flush();
+    }
     OutputFiles::FolderLock lock;
     QString error;
     if (!lock.lock(QFileInfo(panorama).absolutePath(), &error))
@@ -310,9 +248,6 @@ int StitchCommand::stitch(const Options& options, bool force, Console& console)
     if (!present.isEmpty())
         return fail(inputError(OutputFiles::existsMessage(present)));
 
-    Options checkedOptions = options;
-    checkedOptions.output = panorama;
-    StitchPipeline pipeline(checkedOptions);
     pipeline.setProgress(
         [&console](const StitchPipeline::StepEvent& event) { print(console, event); });
     StopSignals::setPipeline(&pipeline);

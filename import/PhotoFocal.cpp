@@ -43,15 +43,23 @@ PhotoFocal::Choice PhotoFocal::Preset(
 PhotoFocal::Choice PhotoFocal::ForDescription(
     const StructuredPanoramaProperties& record, const QList<ZIImageDef*>& photos)
 {
+    // The mean is only worked out when the description holds no focal.
+    return ForDescription(record, record.m_focalLength > 0.0f ? 0.0 : MeanOverKnown(photos),
+        LastLens(photos, LensStandard));
+}
+
+PhotoFocal::Choice PhotoFocal::ForDescription(
+    const StructuredPanoramaProperties& record, double photoFocal, int photoLens)
+{
     Choice choice;
     if (record.m_focalLength > 0.0f) {
         choice.focal = double(record.m_focalLength);
     } else {
-        choice.focal = MeanOverKnown(photos);
+        choice.focal = photoFocal;
         choice.fromPhotos = choice.focal > 0.0;
     }
     const bool fisheye = record.m_lensModel == LensFisheye
-        || (record.m_lensModel == LensUnknown && LastLens(photos, LensStandard) == LensFisheye);
+        || (record.m_lensModel == LensUnknown && photoLens == LensFisheye);
     choice.lens = fisheye ? LensFisheye : LensStandard;
     return choice;
 }

@@ -46,4 +46,7 @@ public:
     /// photographs; its lens when it names one, else the last photograph's.
     static Choice ForDescription(
         const StructuredPanoramaProperties& record, const QList<ZIImageDef*>& photos);
+    /// The same with the photographs' MeanOverKnown and LastLens known.
+    static Choice ForDescription(
+        const StructuredPanoramaProperties& record, double photoFocal, int photoLens);
 };

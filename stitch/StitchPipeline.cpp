@@ -3,6 +3,7 @@
 #include "ControlPointFilter.h"
 #include "DescriptionJson.h"
 #include "ImageSize.h"
+#include "PhotoFiles.h"
 #include "PtoProject.h"
 #include "ToolRunner.h"
 
@@ -10,11 +11,14 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
 #include <QSet>
 #include <QVector>
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -649,9 +653,68 @@ QString withSuffix(const QString& project, const QString& suffix)
     return info.absoluteDir().filePath(info.completeBaseName() + suffix);
 }
 
+QString absolute(const QString& path, const QString& folder)
+{
+    return QFileInfo(QDir::isAbsolutePath(path) ? path : QDir(folder).filePath(path))
+        .absoluteFilePath();
+}
+
+/// A project that "panohead import" wrote starts with this comment line,
+/// followed by its numbers of stacks and images.
+const QRegularExpression ProjectSignature(
+    QStringLiteral("^# written by ZPanoHead: (\\d+) stacks, (\\d+) images"),
+    QRegularExpression::MultilineOption);
+
+/// The description of a project that has none: the stacks the project
+/// records (images of one stack number j, its first image the reference;
+/// an image without one is a stack of its own), every pair of stacks linked,
+/// control points looked for between every pair of pictures whatever their
+/// recorded positions.
+StructuredPanoramaProperties everyPairLinked(const PtoProject& project, const QString& folder)
+{
+    StructuredPanoramaProperties panorama;
+    QHash<qint64, int> stackOfNumber;
+    for (int i = 0; i < project.imageCount(); ++i) {
+        bool ok = false;
+        const double number = project.number(i, QStringLiteral("j"), &ok);
+        const bool numbered = ok && std::fabs(number) < 1e9 && number == std::floor(number);
+        const auto found
+            = numbered ? stackOfNumber.constFind(qint64(number)) : stackOfNumber.constEnd();
+        int stack = found == stackOfNumber.constEnd() ? panorama.m_stacks.size() : found.value();
+        if (stack == panorama.m_stacks.size()) {
+            panorama.m_stacks << QStringList();
+            if (numbered)
+                stackOfNumber.insert(qint64(number), stack);
+        }
+        panorama.m_stacks[stack] << absolute(project.imageName(i), folder);
+    }
+    for (int a = 0; a < panorama.m_stacks.size(); ++a) {
+        for (int b = a + 1; b < panorama.m_stacks.size(); ++b) {
+            AuthorizedLink link;
+            link.m_stackIndices = { a, b };
+            panorama.m_links << link;
+        }
+    }
+    panorama.m_autoDetection = true;
+    panorama.m_useRecordedLocation = false;
+    panorama.m_stackLinking = 1;
+    panorama.m_levelLinking = 1;
+    return panorama;
+}
+
 } // namespace
 
+/// What check() read, kept for run().
+struct StitchPipeline::Checked
+{
+    Inputs inputs;
+    PtoProject project;
+    StructuredPanoramaProperties panorama;
+};
+
 StitchPipeline::StitchPipeline(const Options& options) : m_options(options) { }
+
+StitchPipeline::~StitchPipeline() = default;
 
 void StitchPipeline::setProgress(Progress progress)
 {
@@ -680,6 +743,94 @@ QStringList StitchPipeline::programs()
     return names;
 }
 
+bool StitchPipeline::check(QString* error)
+{
+    m_checked.reset();
+    const auto fail = [error](const QString& message) {
+        if (error)
+            *error = message;
+        return false;
+    };
+    auto checked = std::make_unique<Checked>();
+    Inputs& inputs = checked->inputs;
+    const QString& given = m_options.project;
+    const QFileInfo projectInfo(given);
+    if (!projectInfo.isFile())
+        return fail(projectInfo.isDir()
+                ? QStringLiteral("the project %1 is a folder, not a file").arg(given)
+                : QStringLiteral("cannot read the project %1: no such file").arg(given));
+    inputs.project = projectInfo.absoluteFilePath();
+    const QString folder = projectInfo.absolutePath();
+    QFile file(inputs.project);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(
+            QStringLiteral("cannot read the project %1: %2").arg(given, file.errorString()));
+    const QByteArray head = file.read(4096);
+    file.close();
+    const QRegularExpressionMatch signature = ProjectSignature.match(QString::fromUtf8(head));
+    if (!signature.hasMatch())
+        return fail(QStringLiteral("the project %1 was not written by panohead import "
+                                   "(no \"# written by ZPanoHead\" line); only its "
+                                   "projects can be stitched")
+                        .arg(given));
+    PtoProject& project = checked->project;
+    QString reason;
+    if (!project.read(inputs.project, &reason))
+        return fail(reason);
+
+    const QString description = m_options.description.isEmpty()
+        ? withSuffix(inputs.project, QStringLiteral(".json"))
+        : QFileInfo(m_options.description).absoluteFilePath();
+    // A description named on purpose must be there; the one beside the
+    // project may be missing (a dangling link to one is not missing).
+    const QFileInfo descriptionInfo(description);
+    if (m_options.description.isEmpty() && !descriptionInfo.exists()
+        && !descriptionInfo.isSymLink()) {
+        checked->panorama = everyPairLinked(project, folder);
+        inputs.note = QStringLiteral("no description beside %1: every pair of pictures is searched")
+                          .arg(given);
+    } else {
+        StructuredPanoramaProperties& panorama = checked->panorama;
+        if (!DescriptionJson::read(description, &panorama, &reason))
+            return fail(reason);
+        int described = 0;
+        for (const QStringList& stack : panorama.m_stacks)
+            described += stack.size();
+        const int stacks = signature.captured(1).toInt();
+        if (panorama.m_stacks.size() != stacks || described != project.imageCount())
+            return fail(QStringLiteral("the description %1 (%2 stacks, %3 photographs) does not "
+                                       "fit the project %4 (%5 stacks, %6 images)")
+                            .arg(description)
+                            .arg(panorama.m_stacks.size())
+                            .arg(described)
+                            .arg(given)
+                            .arg(stacks)
+                            .arg(project.imageCount()));
+        inputs.description = description;
+    }
+    for (int i = 0; i < project.imageCount(); ++i) {
+        const QString photo = absolute(project.imageName(i), folder);
+        const QString problem = PhotoFiles::problem(photo);
+        if (!problem.isEmpty())
+            return fail(QStringLiteral("the project's photograph %1 cannot be used: %2")
+                            .arg(photo, problem));
+        inputs.photographs << photo;
+    }
+    inputs.hdr = m_options.mode == Output::Hdr
+        || (m_options.mode == Output::Automatic && checked->panorama.m_outputMode == 3);
+    inputs.panorama = m_options.output.isEmpty()
+        ? withSuffix(inputs.project, inputs.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"))
+        : QFileInfo(m_options.output).absoluteFilePath();
+    m_checked = std::move(checked);
+    return true;
+}
+
+const StitchPipeline::Inputs& StitchPipeline::inputs() const
+{
+    static const Inputs none;
+    return m_checked ? m_checked->inputs : none;
+}
+
 StitchPipeline::Result StitchPipeline::run()
 {
     QElapsedTimer total;
@@ -691,28 +842,24 @@ StitchPipeline::Result StitchPipeline::run()
         result.elapsedMilliseconds = total.elapsed();
         return result;
     };
+    QString error;
+    if (!m_checked && !check(&error))
+        return finish(Result::Failed, error);
+    const Checked& checked = *m_checked;
     Stitch s;
     s.options = m_options;
     s.tools = ToolRunner(m_options.tools);
     s.stop = &m_cancelled;
+    s.currentProject = checked.project;
+    s.panorama = checked.panorama;
     Options& o = s.options;
+    o.project = checked.inputs.project;
+    o.description = checked.inputs.description;
+    o.output = checked.inputs.panorama;
     const QFileInfo projectInfo(o.project);
-    if (!projectInfo.isFile())
-        return finish(Result::Failed,
-            QStringLiteral("cannot read the project %1: no such file").arg(o.project));
-    o.project = projectInfo.absoluteFilePath();
-    if (o.description.isEmpty())
-        o.description = withSuffix(o.project, QStringLiteral(".json"));
-    QString error;
-    if (!s.currentProject.read(o.project, &error))
-        return finish(Result::Failed, error);
-    if (!DescriptionJson::read(o.description, &s.panorama, &error))
-        return finish(Result::Failed, error);
-    s.hdr = o.mode == Output::Hdr || (o.mode == Output::Automatic && s.panorama.m_outputMode == 3);
+    result.note = checked.inputs.note;
+    s.hdr = checked.inputs.hdr;
     result.hdr = s.hdr;
-    if (o.output.isEmpty())
-        o.output = withSuffix(o.project, s.hdr ? QStringLiteral(".exr") : QStringLiteral(".tif"));
-    o.output = QFileInfo(o.output).absoluteFilePath();
     s.fusedOutput = o.output;
     const QString suffix = QFileInfo(o.output).suffix().toLower();
     if (s.hdr && suffix != QLatin1String("exr") && suffix != QLatin1String("tif")

@@ -22,6 +22,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 
 class StitchPipeline
 {
@@ -40,7 +41,14 @@ public:
     {
         /// The imported Hugin project.
         QString project;
-        /// The JSON description beside it; empty: the project's name with ".json".
+        /// The JSON description; empty: the project's name with ".json"
+        /// beside it, or none when there is no such file. Without a
+        /// description the stacks are those the project records (its stack
+        /// numbers; without one a picture is a stack of its own), every pair
+        /// of stacks is linked, every pair of pictures is searched for
+        /// control points (as without "Use recorded location", with links
+        /// in all stack levels and control points inside stacks) and the
+        /// other options are the forms' defaults with "Auto detection".
         QString description;
         /// The panorama file: .tif or .jpg; for HDR .exr or .tif (32-bit
         /// float). Empty: the project's name with ".tif", for HDR with ".exr".
@@ -114,14 +122,44 @@ public:
         QString stitchedProject;
         /// Absolute; empty only when the project file does not exist.
         QString workFolder;
+        /// One line for the person who asked for the stitch, e.g. that the
+        /// project has no description; empty when there is nothing to say.
+        QString note;
         qint64 elapsedMilliseconds = 0;
 
         bool succeeded() const { return outcome == Succeeded; }
     };
 
+    /// What the checks before the first step found: the inputs, resolved.
+    struct Inputs
+    {
+        /// Absolute, like every path here.
+        QString project;
+        /// Empty when the project has no description.
+        QString description;
+        /// The project's photographs, in its order.
+        QStringList photographs;
+        /// The panorama is floating point (OpenEXR or float TIFF).
+        bool hdr = false;
+        /// Options::output, or the project's name with ".tif" (HDR ".exr").
+        QString panorama;
+        /// As Result::note.
+        QString note;
+    };
+
     explicit StitchPipeline(const Options& options);
+    ~StitchPipeline();
     StitchPipeline(const StitchPipeline&) = delete;
     StitchPipeline& operator=(const StitchPipeline&) = delete;
+
+    /// Reads the project (one written by "panohead import") and its
+    /// description, and checks that they fit and that every photograph can
+    /// be read. run() starts with these checks unless they were made; made
+    /// before run(), they let a caller check its outputs against the inputs.
+    /// False with one line naming the file and the reason in *error.
+    bool check(QString* error);
+    /// Valid once check() succeeded.
+    const Inputs& inputs() const;
 
     /// Called on run()'s thread when a step starts and when it ends. Set it
     /// before run().
@@ -144,7 +182,10 @@ public:
     static QStringList programs();
 
 private:
+    struct Checked;
+
     Options m_options;
     Progress m_progress;
     std::atomic<bool> m_cancelled { false };
+    std::unique_ptr<Checked> m_checked;
 };

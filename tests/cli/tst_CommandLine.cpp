@@ -397,10 +397,11 @@ void tst_CommandLine::stitchMissingFiles()
         QStringLiteral("35"), data(QStringLiteral("three-shots.xml")),
         path(QStringLiteral("three")), QStringLiteral("-o"), folder });
     QCOMPARE(o.code, 0);
+    // A description named on purpose must be there.
     const QString description = QDir(folder).filePath(QStringLiteral("three-shots.json"));
     QVERIFY(QFile::remove(description));
-    o = command(
-        { QStringLiteral("stitch"), QDir(folder).filePath(QStringLiteral("three-shots.pto")) });
+    o = command({ QStringLiteral("stitch"), QStringLiteral("--description"), description,
+        QDir(folder).filePath(QStringLiteral("three-shots.pto")) });
     QCOMPARE(o.code, 1);
     QCOMPARE(o.err,
         QStringLiteral("panohead stitch: cannot read %1: No such file or directory\n")

@@ -143,6 +143,7 @@ private slots:
     void fullDisk();
     void lockedFolder();
     void layoutPictureIsNoPhotograph();
+    void projectWithoutDescription();
     void batch();
 
 private:
@@ -482,6 +483,13 @@ void tst_CommandLineProgram::badInput_data()
         << QStringList { s, force, QStringLiteral("--description"),
                path(QStringLiteral("other/three-shots.json")), project }
         << 1 << QStringLiteral("(4 stacks, 4 photographs) does not fit the project") << out;
+    QTest::newRow("named description missing")
+        << QStringList { s, force, QStringLiteral("--description"),
+               path(QStringLiteral("none.json")), project }
+        << 1
+        << QStringLiteral("cannot read %1: No such file or directory")
+               .arg(path(QStringLiteral("none.json")))
+        << out;
     QTest::newRow("photograph gone at stitch time")
         << QStringList { s, force, path(QStringLiteral("moved/three-shots.pto")) } << 1
         << QStringLiteral("the project's photograph %1 cannot be used: no such file")
@@ -682,6 +690,26 @@ void tst_CommandLineProgram::layoutPictureIsNoPhotograph()
         QVERIFY2(r.out.contains(QStringLiteral("4 stacks, 4 photographs,")), qPrintable(r.out));
         QVERIFY(QFileInfo(QDir(folder).filePath(QStringLiteral("panorama-layout.png"))).isFile());
     }
+}
+
+void tst_CommandLineProgram::projectWithoutDescription()
+{
+    // Only the Hugin project kept: the stitch says once, before its steps,
+    // that every pair of pictures is searched, and makes the panorama.
+    const QString folder = path(QStringLiteral("lone"));
+    QVERIFY(importThreeShots(folder, path(QStringLiteral("three"))));
+    QVERIFY(QFile::remove(QDir(folder).filePath(QStringLiteral("three-shots.json"))));
+    const QString project = QDir(folder).filePath(QStringLiteral("three-shots.pto"));
+    const Run run = panohead({ QStringLiteral("stitch"), QStringLiteral("--tools"),
+        path(QStringLiteral("tools/good")), project });
+    QVERIFY(!run.crashed);
+    QVERIFY2(run.code == 0, qPrintable(run.err));
+    QCOMPARE(run.err,
+        QStringLiteral(
+            "panohead stitch: no description beside %1: every pair of pictures is searched\n")
+            .arg(project));
+    QVERIFY2(run.out.startsWith(QStringLiteral("[1/7] cpfind: ")), qPrintable(run.out));
+    QVERIFY(QFileInfo(QDir(folder).filePath(QStringLiteral("three-shots.tif"))).size() > 0);
 }
 
 void tst_CommandLineProgram::batch()

@@ -23,7 +23,8 @@ using Result = StitchPipeline::Result;
 
 /// Three stacks of one picture each: stacks 0 and 1 (yaw 0 and 40) are
 /// linked, stack 2 (yaw 160) is not.
-const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+const char ProjectText[] = "# written by ZPanoHead: 3 stacks, 3 images, 1 authorised links\n"
+                           "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
                            "m i0\n"
                            "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
                            "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
@@ -31,16 +32,18 @@ const char ProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CRO
                            "v r1 p1 y1\nv r2 p2 y2\nv\n";
 
 /// The same three positions with two exposures each; the second of a stack
-/// is hard-linked to the first.
-const char StackedProjectText[] = "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
-                                  "m i0\n"
-                                  "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 n\"P1b.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 n\"P2b.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
-                                  "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 n\"P3b.jpg\"\n"
-                                  "v r2 p2 y2\nv r4 p4 y4\nv\n";
+/// is hard-linked to the first and shares its stack number.
+const char StackedProjectText[]
+    = "# written by ZPanoHead: 3 stacks, 6 images, 1 authorised links\n"
+      "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
+      "m i0\n"
+      "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 j0 n\"P1.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=0 p=0 y=0 j=0 n\"P1b.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 j1 n\"P2.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=2 p=2 y=2 j=2 n\"P2b.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 j2 n\"P3.jpg\"\n"
+      "i w400 h300 f0 v=0 Eev13.9 Er1 Eb1 r=4 p=4 y=4 j=4 n\"P3b.jpg\"\n"
+      "v r2 p2 y2\nv r4 p4 y4\nv\n";
 
 /// What the stitch is given besides the stand-ins.
 struct Shoot
@@ -144,6 +147,9 @@ private slots:
     void failure();
     void beforeTheSteps_data();
     void beforeTheSteps();
+    void namedDescriptionMissing();
+    void withoutDescription_data();
+    void withoutDescription();
     void endsTheProcessGroup_data();
     void endsTheProcessGroup();
     void cancelBeforeRun();
@@ -197,6 +203,12 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
         if (shoot.stacked)
             stack << folder.filePath(QLatin1String(name) + QStringLiteral("b.jpg"));
         panorama.m_stacks << stack;
+        // The stand-ins never read a photograph; the stitch checks it is there.
+        for (const QString& photo : stack) {
+            QFile file(photo);
+            if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1)
+                return options;
+        }
     }
     AuthorizedLink link;
     link.m_direction = 2;
@@ -392,6 +404,9 @@ void tst_StitchPipeline::beforeTheSteps_data()
                              << "cannot read the project %1/shoot.pto: no such file";
     QTest::newRow("program") << "tools/nona"
                              << "Hugin's program nona is not found in %1/tools";
+    QTest::newRow("photograph") << "P2.jpg"
+                                << "the project's photograph %1/P2.jpg cannot be used: no such "
+                                   "file";
 }
 
 void tst_StitchPipeline::beforeTheSteps()
@@ -410,6 +425,95 @@ void tst_StitchPipeline::beforeTheSteps()
     QCOMPARE(result.step, 0);
     QCOMPARE(result.error, error.arg(folder.absolutePath()));
     QVERIFY(worker.events().isEmpty());
+}
+
+void tst_StitchPipeline::namedDescriptionMissing()
+{
+    StitchPipeline::Options options = makeStitch({});
+    QVERIFY(!options.project.isEmpty());
+    const QDir folder = QFileInfo(options.project).absoluteDir();
+    options.description = folder.filePath(QStringLiteral("other.json"));
+    StitchPipeline pipeline(options);
+    QString error;
+    QVERIFY(!pipeline.check(&error));
+    QCOMPARE(error,
+        QStringLiteral("cannot read %1: No such file or directory").arg(options.description));
+    const Result result = pipeline.run();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 0);
+    QCOMPARE(result.error, error);
+}
+
+void tst_StitchPipeline::withoutDescription_data()
+{
+    QTest::addColumn<bool>("described");
+    QTest::addColumn<bool>("stacked");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("kept");
+    QTest::addColumn<QString>("fused");
+    // Single pictures: the point between images 1 and 2 joins stacks the
+    // description does not link. Stacks: images 0 and 1 are the first
+    // stack's, image 2 the second's first.
+    QTest::newRow("described") << true << false << "--prealigned"
+                               << "1 points kept, 1 removed (stacks 1-2)" << QString();
+    QTest::newRow("alone") << false << false << "--multirow"
+                           << "2 points kept, 0 removed" << QString();
+    QTest::newRow("alone, stacks") << false << true << "--multirow"
+                                   << "2 points kept, 0 removed"
+                                   << "3 stacks";
+}
+
+void tst_StitchPipeline::withoutDescription()
+{
+    QFETCH(bool, described);
+    QFETCH(bool, stacked);
+    QFETCH(QString, search);
+    QFETCH(QString, kept);
+    QFETCH(QString, fused);
+    Shoot shoot;
+    shoot.stacked = stacked;
+    // cpfind keeps its arguments beside its output.
+    StitchPipeline::Options options = makeStitch(
+        { { QStringLiteral("cpfind"),
+            QStringLiteral(
+                "echo \"$*\" > \"$out.arguments\"; cp \"$last\" \"$out\"\n"
+                "printf 'c n0 N1 x1 y1 X2 Y2 t0\\nc n1 N2 x1 y1 X2 Y2 t0\\n' >> \"$out\"") } },
+        shoot);
+    QVERIFY(!options.project.isEmpty());
+    const QDir folder = QFileInfo(options.project).absoluteDir();
+    if (!described)
+        QVERIFY(QFile::remove(folder.filePath(QStringLiteral("shoot.json"))));
+    StitchPipeline pipeline(options);
+    QString error;
+    QVERIFY2(pipeline.check(&error), qPrintable(error));
+    const QString note = described
+        ? QString()
+        : QStringLiteral("no description beside %1: every pair of pictures is searched")
+              .arg(options.project);
+    QCOMPARE(pipeline.inputs().note, note);
+    QCOMPARE(pipeline.inputs().description.isEmpty(), !described);
+    QCOMPARE(pipeline.inputs().photographs.size(), stacked ? 6 : 3);
+    QCOMPARE(pipeline.inputs().photographs.first(), folder.filePath(QStringLiteral("P1.jpg")));
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QCOMPARE(result.note, note);
+    QCOMPARE(result.stepCount, AllTools.size() + (stacked ? 1 : 0));
+    const QVector<StepEvent>& events = worker.events();
+    const auto noteOf = [&events](const char* tool) {
+        for (const StepEvent& event : events) {
+            if (event.tool == QLatin1String(tool) && event.phase == StepEvent::Done)
+                return event.note;
+        }
+        return QString();
+    };
+    QCOMPARE(noteOf("links"), kept);
+    QCOMPARE(noteOf("enfuse"), fused);
+    QFile arguments(QDir(result.workFolder).filePath(QStringLiteral("01-cpfind.pto.arguments")));
+    QVERIFY(arguments.open(QIODevice::ReadOnly));
+    const QStringList words = QString::fromUtf8(arguments.readAll()).split(QLatin1Char(' '));
+    QVERIFY2(words.contains(search), qPrintable(words.join(QLatin1Char(' '))));
 }
 
 void tst_StitchPipeline::endsTheProcessGroup_data()
@@ -598,6 +702,8 @@ void tst_StitchPipeline::render()
     QStringList expected = { panorama };
     if (!preview.isEmpty())
         expected << preview;
+    // Besides the shoot's photographs.
+    expected << folder.entryList({ QStringLiteral("P?.jpg"), QStringLiteral("P?b.jpg") });
     std::sort(left.begin(), left.end());
     std::sort(expected.begin(), expected.end());
     QCOMPARE(left, expected);

@@ -254,6 +254,9 @@ QString tst_StitchRender::makeShoot(
             variables << QStringLiteral("v r%1 p%1 y%1").arg(i);
     }
     lines << variables << QStringLiteral("v");
+    lines.prepend(QStringLiteral("# written by ZPanoHead: %1 stacks, %2 images, 1 authorised links")
+                      .arg(panorama.m_stacks.size())
+                      .arg(shots.size()));
     AuthorizedLink link;
     link.m_direction = 2;
     link.m_stackIndices = { 0, 1 };
@@ -347,17 +350,22 @@ void tst_StitchRender::hdrHoldsMoreThanAnyExposure()
 
 void tst_StitchRender::stackLinking_data()
 {
+    QTest::addColumn<bool>("described");
     QTest::addColumn<int>("linking");
     QTest::addColumn<double>("expectedYaw");
     QTest::addColumn<double>("expectedPitch");
     // The darker exposures were shot 0.6° right of and 0.4° below their
     // references (about 3 and 2 pixels); the head recorded one position.
-    QTest::newRow("control points inside stacks") << 1 << 0.6 << -0.4;
-    QTest::newRow("hard links") << 0 << 0.0 << 0.0;
+    QTest::newRow("control points inside stacks") << true << 1 << 0.6 << -0.4;
+    QTest::newRow("hard links") << true << 0 << 0.0 << 0.0;
+    // Without the description every picture is a stack of its own, and
+    // points are looked for between every pair.
+    QTest::newRow("no description") << false << 1 << 0.6 << -0.4;
 }
 
 void tst_StitchRender::stackLinking()
 {
+    QFETCH(bool, described);
     QFETCH(int, linking);
     QFETCH(double, expectedYaw);
     QFETCH(double, expectedPitch);
@@ -384,12 +392,16 @@ void tst_StitchRender::stackLinking()
         file.close();
     }
 
+    if (!described)
+        QVERIFY(QFile::remove(QFileInfo(project).dir().filePath(QStringLiteral("shoot.json"))));
+
     StitchPipeline::Options stitch;
     stitch.project = project;
     stitch.timeoutSeconds = 120;
     StitchPipeline pipeline(stitch);
     const StitchPipeline::Result result = pipeline.run();
     QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QCOMPARE(result.note.isEmpty(), described);
     PtoProject final;
     QString error;
     QVERIFY2(final.read(result.stitchedProject, &error), qPrintable(error));

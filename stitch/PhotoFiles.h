@@ -1,5 +1,6 @@
 // PhotoFiles: which files an import takes as photographs, and why a file
-// cannot be one. Every file refused is named with its reason: a dangling
+// cannot be one; the stitch checks a project's photographs with it before
+// its first step. Every file refused is named with its reason: a dangling
 // link, a link loop, something that is not a regular file (a FIFO), an empty
 // file, one that cannot be read, one whose name a Hugin project cannot hold.
 #pragma once
