@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <QThread>
 #include <QVector>
 
 #include <algorithm>
@@ -56,6 +57,9 @@ struct Stitch
     QString current;
     PtoProject currentProject;
     int imageCount = 0;
+
+    /// Tells the progress callback how much of the running step is done.
+    std::function<void(int done, int total)> progressed = [](int, int) {};
 
     QString workFile(const QString& name) const { return work.filePath(name); }
 
@@ -383,18 +387,53 @@ Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const Q
     const QVector<int>& images)
 {
     removeFiles(s, prefix + QStringLiteral("*"));
+    // One nona per picture, as many at once as there are cores: each picture
+    // is read, remapped and written independently of the others.
     // Intermediate pictures are read once: compressing them costs time only.
     QStringList arguments = mode;
     arguments << QStringLiteral("-z") << QStringLiteral("NONE") << QStringLiteral("-o")
               << s.workFile(prefix);
-    for (int image : images)
-        arguments << QStringLiteral("-i") << QString::number(image);
-    arguments << s.current;
-    const ToolRunner::Result result = s.run(QStringLiteral("nona"), arguments);
-    if (!result.succeeded()) {
-        if (result.stopped || result.timedOut)
+    QVector<ToolRunner::Job> jobs;
+    for (int image : images) {
+        jobs.append({ arguments
+                + QStringList { QStringLiteral("-i"), QString::number(image), s.current },
+            numberedFile(s, prefix, image, QStringLiteral("log")) });
+    }
+    s.progressed(0, images.size());
+    int finished = 0;
+    Outcome outcome;
+    const auto ended = [&](int job, const ToolRunner::Result& result) {
+        // The log keeps each run's output whole, in the order the runs end.
+        QFile part(jobs[job].logPath);
+        QFile log(s.log);
+        if (part.open(QIODevice::ReadOnly) && log.open(QIODevice::Append))
+            log.write(part.readAll());
+        part.remove();
+        if (!result.succeeded()) {
+            if (outcome.error.isEmpty() && !result.stopped) {
+                outcome = toolFailure(QStringLiteral("nona"), result);
+                outcome.error = QStringLiteral("image %1: %2").arg(images[job]).arg(outcome.error);
+            }
+            return false;
+        }
+        s.progressed(++finished, images.size());
+        return true;
+    };
+    const QVector<ToolRunner::Result> results = s.tools.runEach(QStringLiteral("nona"), jobs,
+        s.work.absolutePath(), qMax(1, QThread::idealThreadCount()), s.options.timeoutSeconds,
+        s.stop, ended);
+    removeFiles(s, prefix + QStringLiteral("*.log"));
+    const bool stopped = std::any_of(results.begin(), results.end(),
+        [](const ToolRunner::Result& r) { return r.stopped; });
+    if (outcome.error.isEmpty() && stopped) {
+        outcome.error = QStringLiteral("nona was stopped");
+        outcome.stopped = true;
+    }
+    if (!outcome.error.isEmpty()) {
+        if (outcome.stopped || std::any_of(results.begin(), results.end(),
+                [](const ToolRunner::Result& r) { return r.timedOut; }))
             removeFiles(s, prefix + QStringLiteral("*"));
-        return toolFailure(QStringLiteral("nona"), result);
+        return outcome;
     }
     int count = 0;
     for (int image : images)
@@ -794,7 +833,17 @@ StitchPipeline::Result StitchPipeline::run()
             m_progress(event);
         QElapsedTimer timer;
         timer.start();
+        s.progressed = [this, &event, &timer](int done, int total) {
+            StepEvent progressed = event;
+            progressed.phase = StepEvent::Progressed;
+            progressed.done = done;
+            progressed.total = total;
+            progressed.elapsedMilliseconds = timer.elapsed();
+            if (m_progress)
+                m_progress(progressed);
+        };
         const Outcome outcome = step.run(s);
+        s.progressed = [](int, int) {};
         result.stitchedProject = s.current;
         event.elapsedMilliseconds = timer.elapsed();
         event.phase = outcome.stopped ? StepEvent::Stopped

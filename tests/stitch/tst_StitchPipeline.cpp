@@ -11,7 +11,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 
 #include <thread>
@@ -130,6 +132,17 @@ const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Choosing canvas and crop"), QStringLiteral("Remapping"),
     QStringLiteral("Blending") };
 
+/// The events that start and end steps, without the counts of pictures.
+QVector<StepEvent> startsAndEnds(const QVector<StepEvent>& events)
+{
+    QVector<StepEvent> kept;
+    for (const StepEvent& event : events) {
+        if (event.phase != StepEvent::Progressed)
+            kept << event;
+    }
+    return kept;
+}
+
 } // namespace
 
 class tst_StitchPipeline : public QObject
@@ -154,6 +167,10 @@ private slots:
     void hdrNeedsAFloatFormat();
     void cleanWrongLink_data();
     void cleanWrongLink();
+    void remapCountsPictures_data();
+    void remapCountsPictures();
+    void remapFailureNamesThePicture();
+    void cancelEndsEveryNona();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
@@ -257,7 +274,7 @@ void tst_StitchPipeline::progress()
     QVERIFY(result.error.isEmpty());
 
     // Every step starts, then ends well, in order, on the worker's thread.
-    const QVector<StepEvent>& events = worker.events();
+    const QVector<StepEvent> events = startsAndEnds(worker.events());
     QCOMPARE(events.size(), 2 * count);
     QVERIFY(worker.callbacksOnWorker());
     for (int i = 0; i < count; ++i) {
@@ -366,7 +383,7 @@ void tst_StitchPipeline::failure()
     QVERIFY(QFileInfo(result.log).isFile());
 
     // The steps before it ended well; the failed one ends with its reason.
-    const QVector<StepEvent>& events = worker.events();
+    const QVector<StepEvent> events = startsAndEnds(worker.events());
     QCOMPARE(events.size(), 2 * step);
     for (int i = 0; i < events.size(); ++i) {
         QCOMPARE(events[i].step, i / 2 + 1);
@@ -757,6 +774,162 @@ void tst_StitchPipeline::cleanWrongLink()
     } else {
         QVERIFY(note.isEmpty());
     }
+}
+
+void tst_StitchPipeline::remapCountsPictures_data()
+{
+    QTest::addColumn<bool>("stacked");
+    QTest::addColumn<Output>("mode");
+    // The steps that count their pictures, with how many each remaps.
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("pictures");
+    QTest::newRow("single pictures")
+        << false << Output::Fused << QStringList { QStringLiteral("Remapping") } << 3;
+    QTest::newRow("stacks fused")
+        << true << Output::Fused << QStringList { QStringLiteral("Remapping") } << 6;
+    QTest::newRow("stacks HDR") << true << Output::Hdr
+                                << QStringList { QStringLiteral("Remapping"),
+                                       QStringLiteral("Remapping to linear light") }
+                                << 6;
+}
+
+void tst_StitchPipeline::remapCountsPictures()
+{
+    QFETCH(bool, stacked);
+    QFETCH(Output, mode);
+    QFETCH(QStringList, names);
+    QFETCH(int, pictures);
+    Shoot shoot;
+    shoot.stacked = stacked;
+    StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.mode = mode;
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QVERIFY(worker.callbacksOnWorker());
+
+    // Between a counting step's start and end: 0, 1, ... of all its pictures,
+    // in order, each naming the step.
+    QStringList counted;
+    const QVector<StepEvent>& events = worker.events();
+    for (int i = 0; i < events.size(); ++i) {
+        if (events[i].phase != StepEvent::Progressed)
+            continue;
+        const StepEvent& start = events[i - 1];
+        QCOMPARE(start.phase, StepEvent::Started);
+        counted << start.name;
+        for (int done = 0; done <= pictures; ++done, ++i) {
+            const StepEvent& event = events[i];
+            QCOMPARE(event.phase, StepEvent::Progressed);
+            QCOMPARE(event.done, done);
+            QCOMPARE(event.total, pictures);
+            QCOMPARE(event.step, start.step);
+            QCOMPARE(event.count, start.count);
+            QCOMPARE(event.tool, QStringLiteral("nona"));
+            QCOMPARE(event.name, start.name);
+        }
+        QCOMPARE(events[i].phase, StepEvent::Done);
+        QCOMPARE(events[i].step, start.step);
+        QCOMPARE(events[i].note, QStringLiteral("%1 of %1 pictures").arg(pictures));
+    }
+    QCOMPARE(counted, names);
+    // Every other step starts and ends without counts.
+    for (const StepEvent& event : events) {
+        if (event.phase != StepEvent::Progressed) {
+            QCOMPARE(event.done, 0);
+            QCOMPARE(event.total, 0);
+        }
+    }
+    // One nona per picture, each given one picture.
+    QFile log(worker.result().log);
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QStringList runs = QString::fromLocal8Bit(log.readAll())
+                                 .split(QLatin1Char('\n'))
+                                 .filter(QRegularExpression(QStringLiteral("^\\$ nona ")));
+    QCOMPARE(runs.size(), pictures * names.size());
+    for (const QString& run : runs)
+        QCOMPARE(run.count(QStringLiteral(" -i ")), 1);
+}
+
+void tst_StitchPipeline::remapFailureNamesThePicture()
+{
+    // Picture 1 of three cannot be remapped; the others can.
+    const QString nona = StandInTools::wellBehaved().value(QStringLiteral("nona"));
+    StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"),
+        QStringLiteral("case \"$images\" in *1*) echo 'cannot read P2.jpg'; exit 4;; esac\n")
+            + nona } });
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 6);
+    QCOMPARE(result.tool, QStringLiteral("nona"));
+    // The reason ends with the last lines of that picture's nona.
+    QVERIFY2(result.error.startsWith(QStringLiteral("image 1: nona exit code 4: ")),
+        qPrintable(result.error));
+    QVERIFY2(result.error.endsWith(QStringLiteral(" -i 1 %1 | cannot read P2.jpg")
+                                       .arg(QFileInfo(result.stitchedProject).absoluteFilePath())),
+        qPrintable(result.error));
+    QCOMPARE(worker.events().last().phase, StepEvent::Failed);
+    QCOMPARE(worker.events().last().note, result.error);
+    QVERIFY(!QFileInfo::exists(result.panorama));
+}
+
+void tst_StitchPipeline::cancelEndsEveryNona()
+{
+    // Each nona starts a program of its own, says which one, and waits.
+    const QString states = m_dir.filePath(QStringLiteral("nonas-%1").arg(m_folders + 1));
+    QVERIFY(QDir().mkpath(states));
+    const QString script = QStringLiteral("sleep 30 &\n"
+                                          "echo \"$$ $!\" > \"%1/tmp-$$\"\n"
+                                          "mv \"%1/tmp-$$\" \"%1/$$\"\n"
+                                          "sleep 30")
+                               .arg(states);
+    Shoot shoot;
+    shoot.stacked = true;
+    StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"), script } }, shoot);
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    // As many run at once as there are cores, up to the six pictures.
+    const int parallel = qBound(1, QThread::idealThreadCount(), 6);
+    const QDir folder(states);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files).size() == parallel, 10000);
+    QTest::qWait(300);
+    const QStringList started = folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files);
+    QCOMPARE(started.size(), parallel);
+    QVector<qint64> pids;
+    for (const QString& name : started) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        for (const QString& pid :
+            QString::fromLocal8Bit(file.readAll()).trimmed().split(QLatin1Char(' ')))
+            pids << pid.toLongLong();
+    }
+    QCOMPARE(pids.size(), 2 * parallel);
+    for (qint64 pid : pids)
+        QVERIFY(processRuns(pid));
+
+    QElapsedTimer timer;
+    timer.start();
+    pipeline.cancel();
+    QTRY_VERIFY_WITH_TIMEOUT(worker.done(), 2000);
+    worker.join();
+    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(worker.result().outcome, Result::Stopped);
+    QCOMPARE(worker.result().tool, QStringLiteral("nona"));
+    QCOMPARE(worker.events().last().phase, StepEvent::Stopped);
+    // Every nona and what each started ended; no further one started.
+    for (qint64 pid : pids)
+        QTRY_VERIFY_WITH_TIMEOUT(!processRuns(pid), 2000);
+    QCOMPARE(folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files).size(), parallel);
+    const QDir work(worker.result().workFolder);
+    QVERIFY(work.entryList({ QStringLiteral("remapped*") }).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
