@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 #include <QThread>
 #include <QVector>
@@ -123,6 +124,111 @@ Outcome runProjectTool(Stitch& s, const QString& tool, const QStringList& argume
     return done();
 }
 
+/// With hard links inside the stacks, an image that is not its stack's
+/// reference takes its position and lens from the reference, and when every
+/// control point joins two references, tools that work on points and
+/// positions need the references only: the other images add nothing but
+/// their time.
+bool referencesSuffice(const Stitch& s)
+{
+    if (s.panorama.m_stackLinking != 0 || s.references.size() == s.imageCount)
+        return false;
+    for (const PtoProject::ControlPoint& point : s.currentProject.controlPoints()) {
+        if (!s.isReference.value(point.first) || !s.isReference.value(point.second))
+            return false;
+    }
+    return true;
+}
+
+/// The i line with its links ("v=0") to image n of a project of the
+/// references renumbered to mapping[n].
+QString renumberedLinks(const QString& line, const QVector<int>& mapping)
+{
+    static const QRegularExpression link(QStringLiteral("(^|\\s)([A-Za-z]+)=(\\d+)"));
+    QString result;
+    int last = 0;
+    QRegularExpressionMatchIterator it = link.globalMatch(line);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch match = it.next();
+        const int image = match.captured(3).toInt();
+        result += line.mid(last, match.capturedStart(3) - last);
+        result += QString::number(mapping.value(image, image));
+        last = match.capturedEnd(3);
+    }
+    return result + line.mid(last);
+}
+
+/// The current project with what a tool wrote into the references' project:
+/// the references' image lines, the panorama line and the control points.
+/// The other images keep their lines, whose links follow their references.
+bool mergeReferences(const Stitch& s, const PtoProject& references, PtoProject* merged,
+    QString* error)
+{
+    QStringList lines = s.currentProject.text().split(QLatin1Char('\n'));
+    const QStringList written = references.text().split(QLatin1Char('\n'));
+    const auto imageLines = [](const QStringList& text) {
+        QVector<int> indices;
+        for (int i = 0; i < text.size(); ++i) {
+            if (text[i].startsWith(QLatin1String("i ")))
+                indices << i;
+        }
+        return indices;
+    };
+    const QVector<int> fullImages = imageLines(lines);
+    const QVector<int> writtenImages = imageLines(written);
+    if (fullImages.size() != s.imageCount || writtenImages.size() != s.references.size()) {
+        *error = QStringLiteral("the references' project does not match the project");
+        return false;
+    }
+    for (int j = 0; j < s.references.size(); ++j)
+        lines[fullImages[s.references[j]]]
+            = renumberedLinks(written[writtenImages[j]], s.references);
+    for (const QString& line : written) {
+        if (!line.startsWith(QLatin1String("p ")))
+            continue;
+        for (QString& old : lines) {
+            if (old.startsWith(QLatin1String("p ")))
+                old = line;
+        }
+    }
+    PtoProject project;
+    if (!project.parse(lines.join(QLatin1Char('\n')), error))
+        return false;
+    QVector<PtoProject::ControlPoint> points = references.controlPoints();
+    for (PtoProject::ControlPoint& point : points)
+        point = PtoProject::renumbered(point, s.references);
+    project.setControlPoints(points);
+    *merged = project;
+    return true;
+}
+
+/// runProjectTool on the whole project, or when the references suffice on
+/// a project of the references (work/<name>-references.pto), merged back
+/// into output.
+Outcome runOnProject(Stitch& s, const QString& tool, const QStringList& options,
+    const QString& output, PtoProject* written)
+{
+    if (!referencesSuffice(s))
+        return runProjectTool(s, tool, options + QStringList { QStringLiteral("-o"), output, s.current },
+            output, written, s.imageCount);
+    const QString base = QFileInfo(output).completeBaseName();
+    const QString input = s.workFile(base + QStringLiteral("-references-in.pto"));
+    const QString partial = s.workFile(base + QStringLiteral("-references.pto"));
+    QString error;
+    if (!s.currentProject.subset(s.references).write(input, &error))
+        return failure(error);
+    PtoProject references;
+    Outcome outcome = runProjectTool(s, tool,
+        options + QStringList { QStringLiteral("-o"), partial, input }, partial, &references,
+        s.references.size());
+    if (!outcome.error.isEmpty())
+        return outcome;
+    QFile::remove(output);
+    if (!mergeReferences(s, references, written, &error) || !written->write(output, &error))
+        return failure(error);
+    return done();
+}
+
 Outcome findControlPoints(Stitch& s)
 {
     const StructuredPanoramaProperties& p = s.panorama;
@@ -205,8 +311,7 @@ Outcome cleanPoints(Stitch& s)
 {
     const QString output = s.workFile(QStringLiteral("03-cpclean.pto"));
     PtoProject cleaned;
-    Outcome outcome = runProjectTool(s, QStringLiteral("cpclean"),
-        { QStringLiteral("-o"), output, s.current }, output, &cleaned, s.imageCount);
+    Outcome outcome = runOnProject(s, QStringLiteral("cpclean"), {}, output, &cleaned);
     if (!outcome.error.isEmpty())
         return outcome;
     const int before = s.currentProject.controlPoints().size();
@@ -233,10 +338,9 @@ Outcome optimiseInto(Stitch& s, const QString& output)
     if (points)
         arguments << QStringLiteral("-l");
     arguments << QStringLiteral("-s");
-    arguments << QStringLiteral("-o") << output << s.current;
     PtoProject optimised;
-    Outcome outcome = runProjectTool(
-        s, QStringLiteral("autooptimiser"), arguments, output, &optimised, s.imageCount);
+    Outcome outcome
+        = runOnProject(s, QStringLiteral("autooptimiser"), arguments, output, &optimised);
     if (!outcome.error.isEmpty())
         return outcome;
     for (int i = 0; i < optimised.imageCount(); ++i) {

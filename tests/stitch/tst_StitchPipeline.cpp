@@ -55,6 +55,8 @@ struct Shoot
     /// Stack 1 is also linked to stack 2, which it cannot meet (yaw 40 and
     /// 160), and cpfind finds one point between them.
     bool wrongLink = false;
+    /// "For a stack:" 0 hard links, 1 detect control points.
+    int stackLinking = 0;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -171,6 +173,8 @@ private slots:
     void remapCountsPictures();
     void remapFailureNamesThePicture();
     void cancelEndsEveryNona();
+    void referencesOnlyWithHardLinks_data();
+    void referencesOnlyWithHardLinks();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
@@ -226,6 +230,7 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     panorama.m_autoDetection = shoot.autoDetection;
     panorama.m_outputMode = shoot.outputMode;
     panorama.m_cleanWrongLinks = shoot.cleanWrongLinks;
+    panorama.m_stackLinking = shoot.stackLinking;
     QString error;
     if (!DescriptionJson::write(panorama, folder.filePath(QStringLiteral("shoot.json")), &error))
         return options;
@@ -930,6 +935,66 @@ void tst_StitchPipeline::cancelEndsEveryNona()
     QCOMPARE(folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files).size(), parallel);
     const QDir work(worker.result().workFolder);
     QVERIFY(work.entryList({ QStringLiteral("remapped*") }).isEmpty());
+}
+
+void tst_StitchPipeline::referencesOnlyWithHardLinks_data()
+{
+    QTest::addColumn<int>("stackLinking");
+    // How many images cpclean and autooptimiser are given.
+    QTest::addColumn<int>("images");
+    QTest::newRow("hard links") << 0 << 3;
+    QTest::newRow("points inside stacks") << 1 << 6;
+}
+
+void tst_StitchPipeline::referencesOnlyWithHardLinks()
+{
+    QFETCH(int, stackLinking);
+    QFETCH(int, images);
+    Shoot shoot;
+    shoot.stacked = true;
+    shoot.stackLinking = stackLinking;
+    const QString calls = m_dir.filePath(QStringLiteral("calls-%1").arg(m_folders + 1));
+    // autooptimiser turns the second position (yaw 40) to yaw 41 and its
+    // field of view to 50.
+    const QString count = QStringLiteral("echo \"$(basename $0) $(grep -c '^i ' \"$last\")\" >> \"%1\"\n")
+                              .arg(calls);
+    StitchPipeline::Options options = makeStitch(
+        { { QStringLiteral("cpclean"), count + QStringLiteral("cp \"$last\" \"$out\"") },
+            { QStringLiteral("autooptimiser"),
+                count
+                    + QStringLiteral("sed -e 's/ y40 / y41 /' -e 's/ v52.6 / v50 /' \"$last\" > "
+                                     "\"$out\"") } },
+        shoot);
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromLocal8Bit(file.readAll()),
+        QStringLiteral("cpclean %1\nautooptimiser %1\n").arg(images));
+
+    // The whole project comes out, every exposure where its reference is,
+    // with the reference's lens, and the control point between the references.
+    PtoProject final;
+    QString error;
+    QVERIFY2(final.read(result.stitchedProject, &error), qPrintable(error));
+    QCOMPARE(final.imageCount(), 6);
+    const double yaws[] = { 0, 0, 41, 41, 160, 160 };
+    for (int i = 0; i < 6; ++i) {
+        bool ok = false;
+        QCOMPARE(final.number(i, QStringLiteral("y"), &ok), yaws[i]);
+        QVERIFY(ok);
+        QCOMPARE(final.number(i, QStringLiteral("v"), &ok), 50.0);
+        QCOMPARE(final.imageName(i).section(QLatin1Char('/'), -1),
+            QStringLiteral("P%1%2.jpg").arg(i / 2 + 1).arg(i % 2 ? "b" : ""));
+    }
+    QCOMPARE(final.value(1, QStringLiteral("Eev")), QStringLiteral("13.9"));
+    QCOMPARE(final.controlPoints().size(), 1);
+    QCOMPARE(final.controlPoints().first().first, 0);
+    QCOMPARE(final.controlPoints().first().second, stackLinking == 0 ? 2 : 1);
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
