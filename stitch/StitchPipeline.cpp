@@ -323,12 +323,64 @@ Outcome cleanPoints(Stitch& s)
     return done(QStringLiteral("%1 points kept, %2 removed").arg(after).arg(before - after));
 }
 
+/// The project with optimiser variables (v lines) for what a motorised head
+/// leaves unknown: the yaw, pitch and roll of every image whose position is
+/// its own (not linked to another's), except the first, which holds the
+/// panorama in place. The field of view follows from the focal length and
+/// the photographs' 35 mm equivalent, so it is left as it is when the
+/// description knows the focal length; without one it is optimised too.
+/// Lens distortion is not: the overlaps of a head's shoot are narrow, and
+/// freeing it there bends the pictures rather than placing them better.
+bool withHeadVariables(const Stitch& s, PtoProject* project, QString* error)
+{
+    static const QRegularExpression ownYaw(QStringLiteral("\\sy-?[0-9.]"));
+    const QStringList lines = s.currentProject.text().split(QLatin1Char('\n'));
+    QStringList variables;
+    if (s.panorama.m_focalLength <= 0)
+        variables << QStringLiteral("v v0");
+    QStringList kept;
+    int image = 0;
+    int lastImageLine = -1;
+    for (const QString& line : lines) {
+        if (line == QLatin1String("v") || line.startsWith(QLatin1String("v ")))
+            continue;
+        if (line.startsWith(QLatin1String("i "))) {
+            if (image > 0 && ownYaw.match(line).hasMatch())
+                variables << QStringLiteral("v y%1 p%1 r%1").arg(image);
+            ++image;
+            lastImageLine = kept.size();
+        }
+        kept << line;
+    }
+    variables << QStringLiteral("v");
+    for (int i = variables.size() - 1; i >= 0; --i)
+        kept.insert(lastImageLine + 1, variables[i]);
+    return project->parse(kept.join(QLatin1Char('\n')), error);
+}
+
 Outcome optimiseInto(Stitch& s, const QString& output)
 {
     const bool points = !s.currentProject.controlPoints().isEmpty();
     QStringList arguments;
-    if (points && !s.panorama.m_skipOptimization)
-        arguments << QStringLiteral("-a");
+    if (points && !s.panorama.m_skipOptimization) {
+        if (s.panorama.m_useRecordedLocation) {
+            // The recorded positions are close: optimising only what the head
+            // leaves unknown finds them in a few iterations, where -a (auto
+            // align) first places the pictures pair by pair and then frees
+            // the lens.
+            PtoProject project;
+            QString error;
+            const QString variables = s.workFile(
+                QFileInfo(output).completeBaseName() + QStringLiteral("-variables.pto"));
+            if (!withHeadVariables(s, &project, &error) || !project.write(variables, &error))
+                return failure(error);
+            s.current = variables;
+            s.currentProject = project;
+            arguments << QStringLiteral("-n");
+        } else {
+            arguments << QStringLiteral("-a");
+        }
+    }
     // Photometric optimisation brings single pictures to one exposure. Fused
     // stacks keep every exposure as shot and HDR takes the recorded exposure
     // values, so for stacks it would cost time (a third of the optimiser's

@@ -57,6 +57,9 @@ struct Shoot
     bool wrongLink = false;
     /// "For a stack:" 0 hard links, 1 detect control points.
     int stackLinking = 0;
+    float focalLength = 0;
+    bool useRecordedLocation = true;
+    bool skipOptimization = false;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -175,6 +178,8 @@ private slots:
     void cancelEndsEveryNona();
     void referencesOnlyWithHardLinks_data();
     void referencesOnlyWithHardLinks();
+    void optimisesWhatTheHeadLeavesOpen_data();
+    void optimisesWhatTheHeadLeavesOpen();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
@@ -231,6 +236,9 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     panorama.m_outputMode = shoot.outputMode;
     panorama.m_cleanWrongLinks = shoot.cleanWrongLinks;
     panorama.m_stackLinking = shoot.stackLinking;
+    panorama.m_focalLength = shoot.focalLength;
+    panorama.m_useRecordedLocation = shoot.useRecordedLocation;
+    panorama.m_skipOptimization = shoot.skipOptimization;
     QString error;
     if (!DescriptionJson::write(panorama, folder.filePath(QStringLiteral("shoot.json")), &error))
         return options;
@@ -995,6 +1003,57 @@ void tst_StitchPipeline::referencesOnlyWithHardLinks()
     QCOMPARE(final.controlPoints().size(), 1);
     QCOMPARE(final.controlPoints().first().first, 0);
     QCOMPARE(final.controlPoints().first().second, stackLinking == 0 ? 2 : 1);
+}
+
+void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen_data()
+{
+    QTest::addColumn<float>("focalLength");
+    QTest::addColumn<bool>("recorded");
+    QTest::addColumn<bool>("skip");
+    // autooptimiser's options (single pictures: with photometric
+    // optimisation) and the project's v lines it is given.
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("variables");
+    QTest::newRow("recorded positions, known focal length")
+        << 35.0f << true << false << "-n -m -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("unknown focal length")
+        << 0.0f << true << false << "-n -m -l -s" << "v v0|v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("every pair searched")
+        << 35.0f << false << false << "-a -m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+    QTest::newRow("skip optimization")
+        << 35.0f << true << true << "-m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+}
+
+void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
+{
+    QFETCH(float, focalLength);
+    QFETCH(bool, recorded);
+    QFETCH(bool, skip);
+    QFETCH(QString, options);
+    QFETCH(QString, variables);
+    Shoot shoot;
+    shoot.focalLength = focalLength;
+    shoot.useRecordedLocation = recorded;
+    shoot.skipOptimization = skip;
+    const QString calls = m_dir.filePath(QStringLiteral("calls-%1").arg(m_folders + 1));
+    StitchPipeline::Options stitch = makeStitch({ { QStringLiteral("autooptimiser"),
+                                                    QStringLiteral("echo \"$*\" >> \"%1\"\n"
+                                                                   "grep '^v' \"$last\" | tr '\\n' "
+                                                                   "'|' >> \"%1\"\n"
+                                                                   "cp \"$last\" \"$out\"")
+                                                        .arg(calls) } },
+        shoot);
+    QVERIFY(!stitch.project.isEmpty());
+    StitchPipeline pipeline(stitch);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines[0].startsWith(options + QStringLiteral(" -o ")), qPrintable(lines[0]));
+    QCOMPARE(lines[1], variables);
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
