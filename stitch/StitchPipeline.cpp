@@ -688,7 +688,7 @@ Outcome mergeStacks(Stitch& s)
         QStringLiteral("merged"), QStringLiteral("exr"), &merged);
 }
 
-/// Where enblend writes before the panorama is checked: beside it, so that
+/// Where the blender writes before the panorama is checked: beside it, so that
 /// the finished file takes its name by a rename and no half-written panorama
 /// ever carries the panorama's name.
 QString partialPanorama(const QString& output)
@@ -718,24 +718,25 @@ QStringList blendInputs(const Stitch& s, const QString& inputPrefix, const QStri
     return inputs;
 }
 
-Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
-    const QString& partial, QStringList arguments)
+Outcome blendInto(Stitch& s, const QString& tool, const QStringList& inputs,
+    const QString& target, const QString& partial, QStringList arguments)
 {
     arguments << QStringLiteral("-o") << partial;
     const QString suffix = QFileInfo(target).suffix().toLower();
     if (suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg"))
         arguments << QStringLiteral("--compression=90");
     arguments << inputs;
-    const ToolRunner::Result result = s.run(QStringLiteral("enblend"), arguments);
+    const ToolRunner::Result result = s.run(tool, arguments);
     if (!result.succeeded())
-        return toolFailure(QStringLiteral("enblend"), result);
+        return toolFailure(tool, result);
     const QFileInfo file(partial);
     if (!file.isFile() || file.size() == 0)
-        return failure(QStringLiteral("enblend wrote no panorama"));
+        return failure(QStringLiteral("%1 wrote no panorama").arg(tool));
     const QSize size = ImageSize::read(partial);
     const QSize expected = s.currentProject.crop().size();
     if (size != expected)
-        return failure(QStringLiteral("enblend wrote a panorama of %1 × %2 instead of %3 × %4")
+        return failure(QStringLiteral("%1 wrote a panorama of %2 × %3 instead of %4 × %5")
+                           .arg(tool)
                            .arg(size.width())
                            .arg(size.height())
                            .arg(expected.width())
@@ -748,33 +749,41 @@ Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 
-Outcome blendTo(
-    Stitch& s, const QStringList& inputs, const QString& target, const QStringList& arguments)
+Outcome blendTo(Stitch& s, const QString& tool, const QStringList& inputs, const QString& target,
+    const QStringList& arguments)
 {
     // An older panorama stays until the new one, complete and checked, takes
     // its name; a failed or stopped blend leaves it as it was.
     const QString partial = partialPanorama(target);
     QFile::remove(partial);
-    const Outcome outcome = blendInto(s, inputs, target, partial, arguments);
+    const Outcome outcome = blendInto(s, tool, inputs, target, partial, arguments);
     if (!outcome.error.isEmpty())
         QFile::remove(partial);
     return outcome;
 }
 
+/// The 8-bit panorama is blended by verdandi, which lays a seam between
+/// neighbours and blends across it, where enblend blends every overlap at
+/// several scales: on the bundled sample's fused stacks verdandi took 0.6 s
+/// of CPU against enblend's 2.4 s, and the two panoramas differ by 1.6 of
+/// 255 levels on average, by more than 8 levels on 0.6 % of the pixels,
+/// along the seams only, with no seam visible in either.
 Outcome blend(Stitch& s)
 {
-    return blendTo(s,
+    return blendTo(s, QStringLiteral("verdandi"),
         blendInputs(s, QStringLiteral("remapped"), QStringLiteral("fused"), QStringLiteral("tif")),
         s.fusedOutput, {});
 }
 
+/// The HDR panorama is blended by enblend, which blends floating-point
+/// pictures at several scales.
 Outcome blendHdr(Stitch& s)
 {
     QStringList arguments;
     const QString suffix = QFileInfo(s.options.output).suffix().toLower();
     if (suffix == QLatin1String("tif") || suffix == QLatin1String("tiff"))
         arguments << QStringLiteral("--compression=DEFLATE");
-    return blendTo(s,
+    return blendTo(s, QStringLiteral("enblend"),
         blendInputs(s, QStringLiteral("linear"), QStringLiteral("merged"), QStringLiteral("exr")),
         s.options.output, arguments);
 }
@@ -829,7 +838,7 @@ const StepDefinition Steps[] = {
         always },
     { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping"), remap, always },
     { "enfuse", QT_TRANSLATE_NOOP("StitchPipeline", "Fusing exposures"), fuse, fusing },
-    { "enblend", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, always },
+    { "verdandi", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, always },
     { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping to linear light"), remapLinear,
         merging },
     { "hugin_hdrmerge", QT_TRANSLATE_NOOP("StitchPipeline", "Merging exposures"), mergeStacks,

@@ -4,10 +4,11 @@
 // autooptimiser, optionally the removal of links that disagree with the
 // optimised positions, pano_modify, then the render. A shoot of single
 // pictures is remapped (nona, one run per picture, as many at once as there
-// are cores) and blended (enblend); stacks of exposures are remapped, each
+// are cores) and blended (verdandi); stacks of exposures are remapped, each
 // stack fused (enfuse) and the fused stacks blended; an HDR panorama merges
-// each stack to linear floating point (nona -r hdr, hugin_hdrmerge) and blends the merged stacks into OpenEXR or
-// 32-bit float TIFF, with the fused panorama beside it as a JPEG preview.
+// each stack to linear floating point (nona -r hdr, hugin_hdrmerge) and
+// blends the merged stacks (enblend) into OpenEXR or 32-bit float TIFF, with
+// the fused panorama beside it as a JPEG preview.
 // Hugin's programs do not always report a failure by their exit code, so what
 // every step wrote is checked.
 //

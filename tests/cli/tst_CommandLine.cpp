@@ -488,14 +488,14 @@ void tst_CommandLine::stitchSteps_data()
         << "nona"
         << "exit 0"
         << "step 6/7 (nona) failed: nona wrote no remapped picture";
-    QTest::newRow("enblend writes nothing")
-        << "enblend"
+    QTest::newRow("verdandi writes nothing")
+        << "verdandi"
         << "exit 0"
-        << "step 7/7 (enblend) failed: enblend wrote no panorama";
-    QTest::newRow("enblend writes no picture")
-        << "enblend"
+        << "step 7/7 (verdandi) failed: verdandi wrote no panorama";
+    QTest::newRow("verdandi writes no picture")
+        << "verdandi"
         << "echo garbage > \"$out\""
-        << "step 7/7 (enblend) failed: enblend wrote a panorama of -1 × -1 instead of 100 × 50";
+        << "step 7/7 (verdandi) failed: verdandi wrote a panorama of -1 × -1 instead of 100 × 50";
 }
 
 void tst_CommandLine::stitchSteps()
@@ -521,7 +521,7 @@ void tst_CommandLine::stitchSteps()
         QVERIFY2(o.code == 0, qPrintable(o.err));
         QVERIFY(o.err.isEmpty());
         QVERIFY2(
-            o.out.contains(QStringLiteral("[7/7] enblend: blending ... done")), qPrintable(o.out));
+            o.out.contains(QStringLiteral("[7/7] verdandi: blending ... done")), qPrintable(o.out));
         QVERIFY(o.out.contains(QStringLiteral("Panorama:         %1 (100 × 50)")
                                    .arg(QDir(folder).filePath(QStringLiteral("three-shots.tif")))));
         return;

@@ -228,7 +228,7 @@ void tst_ImportResultPage::cleanup()
 QString tst_ImportResultPage::makeTools(const QMap<QString, QString>& changes)
 {
     const QDir folder(newFolder());
-    // A real 100 × 50 JPEG for enblend to "write".
+    // A real 100 × 50 JPEG for the blender to "write".
     QImage picture(100, 50, QImage::Format_RGB32);
     picture.fill(QColor(40, 120, 200));
     const QString jpeg = folder.filePath(QStringLiteral("blended.jpg"));
@@ -244,7 +244,7 @@ QString tst_ImportResultPage::makeTools(const QMap<QString, QString>& changes)
         { QStringLiteral("nona"),
             QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
                            "\"$i\")\"; done") },
-        { QStringLiteral("enblend"), QStringLiteral("cp '%1' \"$out\"").arg(jpeg) },
+        { QStringLiteral("verdandi"), QStringLiteral("cp '%1' \"$out\"").arg(jpeg) },
     };
     for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
         tools[it.key()] = it.value();
@@ -386,8 +386,8 @@ void tst_ImportResultPage::eventLoopRunsDuringAStitch()
 void tst_ImportResultPage::cancelEndsTheSleepingTool()
 {
     const QDir out(newFolder());
-    const QString pidFile = out.filePath(QStringLiteral("enblend.pid"));
-    m_tools = makeTools({ { QStringLiteral("enblend"),
+    const QString pidFile = out.filePath(QStringLiteral("verdandi.pid"));
+    m_tools = makeTools({ { QStringLiteral("verdandi"),
         QStringLiteral("printf partial > \"$out\"; echo $$ > '%1'; sleep 60").arg(pidFile) } });
     host()->SetToolsFolder(m_tools);
     QSignalSpy finished(m_page.data(), &ImportResultPage::StitchFinished);
@@ -408,7 +408,7 @@ void tst_ImportResultPage::cancelEndsTheSleepingTool()
     QTRY_VERIFY_WITH_TIMEOUT(!processRuns(pid), 3000);
     QVERIFY(!m_page->IsStitching());
     QVERIFY(m_page->isComplete());
-    // Neither the panorama nor enblend's partial file is left.
+    // Neither the panorama nor the blender's partial file is left.
     QVERIFY(out.entryList({ QStringLiteral("*.jpg") }).isEmpty());
     QCOMPARE(m_page->findChild<QLabel*>(QStringLiteral("m_lbSaved"))->text(),
         QStringLiteral("The stitch was cancelled; no panorama was written."));

@@ -130,7 +130,7 @@ private:
 
 const QStringList AllTools = { QStringLiteral("cpfind"), QStringLiteral("links"),
     QStringLiteral("cpclean"), QStringLiteral("autooptimiser"), QStringLiteral("pano_modify"),
-    QStringLiteral("nona"), QStringLiteral("enblend") };
+    QStringLiteral("nona"), QStringLiteral("verdandi") };
 const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Removing points between positions that do not meet"),
     QStringLiteral("Removing wrong points"), QStringLiteral("Placing the pictures"),
@@ -321,7 +321,7 @@ void tst_StitchPipeline::progress()
     QCOMPARE(result.stitchedProject, folder.filePath(QStringLiteral("shoot.stitch/05-final.pto")));
     QCOMPARE(result.log, folder.filePath(QStringLiteral("shoot.stitch/stitch.log")));
     QVERIFY(QFileInfo(result.log).size() > 0);
-    // enblend wrote beside the panorama; only the checked panorama is left.
+    // The blender wrote beside the panorama; only the checked panorama is left.
     QCOMPARE(folder.entryList({ QStringLiteral("*.tif") }), QStringList { "shoot.tif" });
 }
 
@@ -359,14 +359,14 @@ void tst_StitchPipeline::failure_data()
     QTest::newRow("nona writes nothing")
         << "nona"
         << "exit 0" << 6 << "nona wrote no remapped picture" << QString();
-    QTest::newRow("enblend fails")
-        << "enblend"
-        << "printf x > \"$out\"; echo 'out of memory'; exit 1" << 7 << "enblend exit code 1: "
+    QTest::newRow("verdandi fails")
+        << "verdandi"
+        << "printf x > \"$out\"; echo 'out of memory'; exit 1" << 7 << "verdandi exit code 1: "
         << " | out of memory";
-    QTest::newRow("enblend writes no picture")
-        << "enblend"
+    QTest::newRow("verdandi writes no picture")
+        << "verdandi"
         << "echo garbage > \"$out\"" << 7
-        << "enblend wrote a panorama of -1 × -1 instead of 100 × 50" << QString();
+        << "verdandi wrote a panorama of -1 × -1 instead of 100 × 50" << QString();
 }
 
 void tst_StitchPipeline::failure()
@@ -454,9 +454,9 @@ void tst_StitchPipeline::endsTheProcessGroup_data()
     QTest::newRow("cpfind stopped") << "cpfind" << project << 1 << true;
     QTest::newRow("cpclean stopped") << "cpclean" << project << 3 << true;
     QTest::newRow("nona stopped") << "nona" << remapped << 6 << true;
-    QTest::newRow("enblend stopped") << "enblend" << project << 7 << true;
+    QTest::newRow("verdandi stopped") << "verdandi" << project << 7 << true;
     QTest::newRow("cpfind timed out") << "cpfind" << project << 1 << false;
-    QTest::newRow("enblend timed out") << "enblend" << project << 7 << false;
+    QTest::newRow("verdandi timed out") << "verdandi" << project << 7 << false;
 }
 
 void tst_StitchPipeline::endsTheProcessGroup()
@@ -555,10 +555,10 @@ void tst_StitchPipeline::render_data()
     QTest::addColumn<QString>("panorama");
     QTest::addColumn<QString>("preview");
     const QString detection = QStringLiteral("cpfind links cpclean autooptimiser pano_modify ");
-    const QString fused = detection + QStringLiteral("nona enfuse enblend");
+    const QString fused = detection + QStringLiteral("nona enfuse verdandi");
     const QString hdr = fused + QStringLiteral(" nona hugin_hdrmerge enblend");
     QTest::newRow("single pictures") << false << -1 << Output::Automatic << false
-                                     << detection + QStringLiteral("nona enblend") << "shoot.tif"
+                                     << detection + QStringLiteral("nona verdandi") << "shoot.tif"
                                      << "";
     QTest::newRow("stacks fused") << true << -1 << Output::Automatic << false << fused
                                   << "shoot.tif"
@@ -573,11 +573,11 @@ void tst_StitchPipeline::render_data()
                                << "shoot.jpg";
     QTest::newRow("HDR of single pictures")
         << false << -1 << Output::Hdr << false
-        << detection + QStringLiteral("nona enblend nona hugin_hdrmerge enblend") << "shoot.exr"
+        << detection + QStringLiteral("nona verdandi nona hugin_hdrmerge enblend") << "shoot.exr"
         << "shoot.jpg";
     QTest::newRow("clean wrong link")
         << false << -1 << Output::Automatic << true
-        << QStringLiteral("cpfind links cpclean autooptimiser linkcheck pano_modify nona enblend")
+        << QStringLiteral("cpfind links cpclean autooptimiser linkcheck pano_modify nona verdandi")
         << "shoot.tif"
         << "";
 }
