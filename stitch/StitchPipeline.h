@@ -3,11 +3,12 @@
 // of points between stacks that no authorised link joins, cpclean,
 // autooptimiser, optionally the removal of links that disagree with the
 // optimised positions, pano_modify, then the render. A shoot of single
-// pictures is remapped (nona) and blended (enblend); stacks of exposures are
-// remapped picture by picture, each stack fused (enfuse) and the fused stacks
-// blended; an HDR panorama merges each stack to linear floating point
-// (nona -r hdr, hugin_hdrmerge) and blends the merged stacks into OpenEXR or
-// 32-bit float TIFF, with the fused panorama beside it as a JPEG preview.
+// pictures is remapped (nona, one run per picture, as many at once as there
+// are cores) and blended (verdandi); stacks of exposures are remapped, each
+// stack fused (enfuse) and the fused stacks blended; an HDR panorama merges
+// each stack to linear floating point (nona -r hdr, hugin_hdrmerge) and
+// blends the merged stacks (enblend) into OpenEXR or 32-bit float TIFF, with
+// the fused panorama beside it as a JPEG preview.
 // Hugin's programs do not always report a failure by their exit code, so what
 // every step wrote is checked.
 //
@@ -63,11 +64,15 @@ public:
         int timeoutSeconds = 900;
     };
 
-    /// One step's start or end, as the progress callback receives it.
+    /// One step's start, progress or end, as the progress callback receives it.
     struct StepEvent
     {
         enum Phase {
             Started,
+            /// Part of the step is done: done of total pictures ("Remapping"
+            /// and "Remapping to linear light" count them). Comes first with
+            /// done 0, then once per picture, done counting up to total.
+            Progressed,
             /// Ended well; note may say what it found ("340 points").
             Done,
             /// Ended with an error; note holds the reason.
@@ -90,6 +95,10 @@ public:
         QString note;
         /// Since the step started; 0 for Started.
         qint64 elapsedMilliseconds = 0;
+        /// Progressed: how many of total parts of the step are done; both 0
+        /// in the other phases.
+        int done = 0;
+        int total = 0;
     };
     using Progress = std::function<void(const StepEvent&)>;
 
@@ -161,8 +170,8 @@ public:
     /// Valid once check() succeeded.
     const Inputs& inputs() const;
 
-    /// Called on run()'s thread when a step starts and when it ends. Set it
-    /// before run().
+    /// Called on run()'s thread when a step starts, when part of it is done
+    /// and when it ends. Set it before run().
     void setProgress(Progress progress);
 
     /// Runs every step; returns when the panorama is written, a step failed,

@@ -5,6 +5,12 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QThread>
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <vector>
 
 #include <signal.h>
 #include <unistd.h>
@@ -135,4 +141,90 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
     }
     result.tail = lastLines(logPath, 3);
     return result;
+}
+
+QVector<ToolRunner::Result> ToolRunner::runEach(const QString& name, const QVector<Job>& jobs,
+    const QString& workingFolder, int parallel, int timeoutSeconds, const std::atomic<bool>* stop,
+    const Finished& finished) const
+{
+    std::vector<Result> results(size_t(jobs.size()));
+    std::mutex mutex;
+    std::condition_variable changed;
+    int next = 0;
+    int working = 0;
+    std::deque<int> ended;
+    // Raised by a stop, a refusal of finished(); every running program
+    // watches it.
+    std::atomic<bool> halt { false };
+    const QDeadlineTimer deadline(qint64(timeoutSeconds) * 1000);
+
+    const auto work = [&] {
+        for (;;) {
+            int job = 0;
+            {
+                const std::lock_guard<std::mutex> lock(mutex);
+                if (halt.load() || next >= jobs.size())
+                    break;
+                job = next++;
+            }
+            // Each run may take what is left of the time of them all.
+            const qint64 left = deadline.remainingTime();
+            Result result;
+            if (left == 0) {
+                result.started = true;
+                result.timedOut = true;
+            } else {
+                result = run(name, jobs[job].arguments, workingFolder, jobs[job].logPath,
+                    int(qMax<qint64>(1, (left + 999) / 1000)), &halt);
+            }
+            const std::lock_guard<std::mutex> lock(mutex);
+            results[size_t(job)] = result;
+            ended.push_back(job);
+            changed.notify_all();
+        }
+        const std::lock_guard<std::mutex> lock(mutex);
+        --working;
+        changed.notify_all();
+    };
+
+    const int threads = qBound(1, parallel, qMax(1, int(jobs.size())));
+    QVector<QThread*> workers;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        working = threads;
+    }
+    for (int i = 0; i < threads; ++i) {
+        QThread* thread = QThread::create(work);
+        thread->setObjectName(QStringLiteral("%1 %2").arg(name).arg(i + 1));
+        workers << thread;
+        thread->start();
+    }
+    std::unique_lock<std::mutex> lock(mutex);
+    for (;;) {
+        changed.wait_for(lock, std::chrono::milliseconds(PollMilliseconds / 2),
+            [&] { return !ended.empty() || working == 0; });
+        while (!ended.empty()) {
+            const int job = ended.front();
+            ended.pop_front();
+            lock.unlock();
+            const bool goOn = !finished || finished(job, results[size_t(job)]);
+            lock.lock();
+            if (!goOn)
+                halt.store(true);
+        }
+        if (stop && stop->load())
+            halt.store(true);
+        if (working == 0 && ended.empty())
+            break;
+    }
+    for (int job = next; job < jobs.size(); ++job) {
+        results[size_t(job)].started = true;
+        results[size_t(job)].stopped = true;
+    }
+    lock.unlock();
+    for (QThread* thread : qAsConst(workers)) {
+        thread->wait();
+        delete thread;
+    }
+    return QVector<Result>(results.begin(), results.end());
 }

@@ -7,7 +7,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <QVector>
+
 #include <atomic>
+#include <functional>
 
 class ToolRunner
 {
@@ -45,6 +48,27 @@ public:
     /// of one second, SIGKILL.
     Result run(const QString& name, const QStringList& arguments, const QString& workingFolder,
         const QString& logPath, int timeoutSeconds, const std::atomic<bool>* stop = nullptr) const;
+
+    /// One run of a program: its arguments and the log its output goes to.
+    struct Job
+    {
+        QStringList arguments;
+        QString logPath;
+    };
+    /// Called on the calling thread as each job ends, in the order they end;
+    /// false stops the rest.
+    using Finished = std::function<bool(int job, const Result& result)>;
+
+    /// Runs name once per job, up to parallel (at least 1) at once, each run
+    /// in a process group of its own as run() does, and waits for them on the
+    /// calling thread. All of them together may take timeoutSeconds; a run
+    /// still going then ends as timed out. When *stop (optional) turns true or
+    /// finished returns false, the running programs' groups are ended within
+    /// about 0.2 s and no further job starts. Returns each job's result; a job
+    /// that was not started for that reason is stopped.
+    QVector<Result> runEach(const QString& name, const QVector<Job>& jobs,
+        const QString& workingFolder, int parallel, int timeoutSeconds,
+        const std::atomic<bool>* stop, const Finished& finished) const;
 
 private:
     QString m_folder;

@@ -731,6 +731,11 @@
         <translation>Schritt %1 von %2: %3</translation>
     </message>
     <message>
+        <location line="-2"/>
+        <source>%1 %2 of %3</source>
+        <translation>%1: %2 von %3</translation>
+    </message>
+    <message>
         <location line="+17"/>
         <source>%1:%2</source>
         <translation>%1:%2</translation>

@@ -731,6 +731,11 @@
         <translation>Step %1 of %2: %3</translation>
     </message>
     <message>
+        <location line="-2"/>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2 of %3</translation>
+    </message>
+    <message>
         <location line="+17"/>
         <source>%1:%2</source>
         <translation>%1:%2</translation>

@@ -731,6 +731,11 @@
         <translation>Étape %1 sur %2 : %3</translation>
     </message>
     <message>
+        <location line="-2"/>
+        <source>%1 %2 of %3</source>
+        <translation>%1 : %2 sur %3</translation>
+    </message>
+    <message>
         <location line="+17"/>
         <source>%1:%2</source>
         <translation>%1:%2</translation>

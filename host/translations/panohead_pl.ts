@@ -731,6 +731,11 @@
         <translation>Krok %1 z %2: %3</translation>
     </message>
     <message>
+        <location line="-2"/>
+        <source>%1 %2 of %3</source>
+        <translation>%1: %2 z %3</translation>
+    </message>
+    <message>
         <location line="+17"/>
         <source>%1:%2</source>
         <translation>%1:%2</translation>

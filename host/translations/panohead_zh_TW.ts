@@ -731,6 +731,11 @@
         <translation>第 %1 步，共 %2 步：%3</translation>
     </message>
     <message>
+        <location line="-2"/>
+        <source>%1 %2 of %3</source>
+        <translation>%1：第 %2 張，共 %3 張</translation>
+    </message>
+    <message>
         <location line="+17"/>
         <source>%1:%2</source>
         <translation>%1:%2</translation>

@@ -78,6 +78,7 @@ private slots:
     void stitchSteps();
     void stitchWithoutDetection();
     void stitchStoppedByInterrupt();
+    void stitchCountsPicturesOnATerminal();
 
 private:
     QString data(const QString& name) const
@@ -488,14 +489,14 @@ void tst_CommandLine::stitchSteps_data()
         << "nona"
         << "exit 0"
         << "step 6/7 (nona) failed: nona wrote no remapped picture";
-    QTest::newRow("enblend writes nothing")
-        << "enblend"
+    QTest::newRow("verdandi writes nothing")
+        << "verdandi"
         << "exit 0"
-        << "step 7/7 (enblend) failed: enblend wrote no panorama";
-    QTest::newRow("enblend writes no picture")
-        << "enblend"
+        << "step 7/7 (verdandi) failed: verdandi wrote no panorama";
+    QTest::newRow("verdandi writes no picture")
+        << "verdandi"
         << "echo garbage > \"$out\""
-        << "step 7/7 (enblend) failed: enblend wrote a panorama of -1 × -1 instead of 100 × 50";
+        << "step 7/7 (verdandi) failed: verdandi wrote a panorama of -1 × -1 instead of 100 × 50";
 }
 
 void tst_CommandLine::stitchSteps()
@@ -521,7 +522,7 @@ void tst_CommandLine::stitchSteps()
         QVERIFY2(o.code == 0, qPrintable(o.err));
         QVERIFY(o.err.isEmpty());
         QVERIFY2(
-            o.out.contains(QStringLiteral("[7/7] enblend: blending ... done")), qPrintable(o.out));
+            o.out.contains(QStringLiteral("[7/7] verdandi: blending ... done")), qPrintable(o.out));
         QVERIFY(o.out.contains(QStringLiteral("Panorama:         %1 (100 × 50)")
                                    .arg(QDir(folder).filePath(QStringLiteral("three-shots.tif")))));
         return;
@@ -584,6 +585,37 @@ void tst_CommandLine::stitchStoppedByInterrupt()
     QCOMPARE(o.err,
         QStringLiteral("panohead stitch: stopped at step 1/7 (cpfind); log: %1\n")
             .arg(QDir(folder).filePath(QStringLiteral("three-shots.stitch/stitch.log"))));
+}
+
+void tst_CommandLine::stitchCountsPicturesOnATerminal()
+{
+    const QString folder = path(QStringLiteral("terminal"));
+    Outcome o = command({ QStringLiteral("import"), QStringLiteral("papywizard"),
+        QStringLiteral("--focal"), QStringLiteral("35"), data(QStringLiteral("three-shots.xml")),
+        path(QStringLiteral("three")), QStringLiteral("-o"), folder });
+    QVERIFY2(o.code == 0, qPrintable(o.err));
+    const QString tools = QDir(folder).filePath(QStringLiteral("tools"));
+    QVERIFY(makeTools(tools, {}));
+    const QStringList arguments = { QStringLiteral("stitch"), QStringLiteral("--tools"), tools,
+        QStringLiteral("--force"), QDir(folder).filePath(QStringLiteral("three-shots.pto")) };
+    // On a terminal the remapping's line counts the pictures in place.
+    Outcome terminal;
+    {
+        QTextStream out(&terminal.out), err(&terminal.err);
+        Console console { out, err, true };
+        terminal.code = CommandLine::run(arguments, console);
+    }
+    QVERIFY2(terminal.code == 0, qPrintable(terminal.err));
+    QVERIFY2(terminal.out.contains(QStringLiteral(
+                 "[6/7] nona: remapping ... \r[6/7] nona: remapping 0 of 3 ... "
+                 "\r[6/7] nona: remapping 1 of 3 ... \r[6/7] nona: remapping 2 of 3 ... "
+                 "\r[6/7] nona: remapping 3 of 3 ... done in ")),
+        qPrintable(terminal.out));
+    // Into a file the step's line comes once.
+    o = command(arguments);
+    QVERIFY2(o.code == 0, qPrintable(o.err));
+    QVERIFY2(o.out.contains(QStringLiteral("[6/7] nona: remapping ... done in ")), qPrintable(o.out));
+    QVERIFY(!o.out.contains(QLatin1Char('\r')));
 }
 
 QTEST_MAIN(tst_CommandLine)

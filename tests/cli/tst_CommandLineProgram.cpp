@@ -254,13 +254,13 @@ void tst_CommandLineProgram::initTestCase()
     QVERIFY(StandInTools::make(path(QStringLiteral("tools/good")), {}));
     QVERIFY(QDir().mkpath(path(QStringLiteral("tools/none"))));
     QVERIFY(StandInTools::make(
-        path(QStringLiteral("tools/no-enblend")), { { QStringLiteral("enblend"), QString() } }));
+        path(QStringLiteral("tools/no-verdandi")), { { QStringLiteral("verdandi"), QString() } }));
     QVERIFY(StandInTools::make(path(QStringLiteral("tools/cpfind-fails")),
         { { QStringLiteral("cpfind"), QStringLiteral("exit 3") } }));
     // A blender whose log holds NUL bytes before its reason.
-    QVERIFY(StandInTools::make(path(QStringLiteral("tools/enblend-nul")),
-        { { QStringLiteral("enblend"),
-            QStringLiteral("printf 'progress\\000\\000 50%%\\000\\nenblend: cannot write the "
+    QVERIFY(StandInTools::make(path(QStringLiteral("tools/verdandi-nul")),
+        { { QStringLiteral("verdandi"),
+            QStringLiteral("printf 'progress\\000\\000 50%%\\000\\nverdandi: cannot write the "
                            "output: disk gone\\n'; exit 1") } }));
 
     // A folder that cannot be written: a read-only file system where the
@@ -502,17 +502,18 @@ void tst_CommandLineProgram::badInput_data()
                .arg(path(QStringLiteral("tools/none")))
         << out;
     QTest::newRow("no blender")
-        << QStringList { s, force, tools, path(QStringLiteral("tools/no-enblend")), project } << 3
-        << QStringLiteral("Hugin's program enblend is not found in %1 (Debian package enblend)")
-               .arg(path(QStringLiteral("tools/no-enblend")))
+        << QStringList { s, force, tools, path(QStringLiteral("tools/no-verdandi")), project } << 3
+        << QStringLiteral("Hugin's program verdandi is not found in %1 (Debian package "
+                          "hugin-tools)")
+               .arg(path(QStringLiteral("tools/no-verdandi")))
         << out;
     QTest::newRow("a tool fails") << QStringList { s, force, tools,
         path(QStringLiteral("tools/cpfind-fails")),
         project } << 3 << QStringLiteral("step 1/7 (cpfind) failed: cpfind exit code 3")
                                   << out;
     QTest::newRow("a tool's log holds NUL bytes")
-        << QStringList { s, force, tools, path(QStringLiteral("tools/enblend-nul")), project } << 3
-        << QStringLiteral("| progress 50% | enblend: cannot write the output: disk gone; log: ")
+        << QStringList { s, force, tools, path(QStringLiteral("tools/verdandi-nul")), project } << 3
+        << QStringLiteral("| progress 50% | verdandi: cannot write the output: disk gone; log: ")
         << out;
 
     // The command line.
@@ -547,7 +548,7 @@ void tst_CommandLineProgram::interrupted_data()
     QTest::addColumn<QString>("tool");
     QTest::addColumn<int>("code");
     QTest::newRow("Ctrl-C while cpfind runs") << int(SIGINT) << "cpfind" << 130;
-    QTest::newRow("SIGTERM while enblend writes") << int(SIGTERM) << "enblend" << 143;
+    QTest::newRow("SIGTERM while verdandi writes") << int(SIGTERM) << "verdandi" << 143;
 }
 
 void tst_CommandLineProgram::interrupted()

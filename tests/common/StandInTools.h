@@ -38,7 +38,7 @@ const QString TiffHeader
 /// What each stand-in does when it behaves: the project passes through, the
 /// control point finder adds one point between the linked stacks 0 and 1,
 /// the canvas gets a 100 × 50 crop, nona writes its pictures (OpenEXR ones
-/// when asked for them), the blender and
+/// when asked for them), the blenders and
 /// the exposure fuser a 100 × 50 TIFF header, the HDR merger one byte.
 inline QMap<QString, QString> wellBehaved()
 {
@@ -54,6 +54,7 @@ inline QMap<QString, QString> wellBehaved()
                            "for i in $images; do printf x > \"$(printf '%s%04d.%s' \"$out\" "
                            "\"$i\" $ext)\"; done") },
         { QStringLiteral("enblend"), TiffHeader },
+        { QStringLiteral("verdandi"), TiffHeader },
         { QStringLiteral("enfuse"), TiffHeader },
         { QStringLiteral("hugin_hdrmerge"), QStringLiteral("printf x > \"$out\"") },
     };

@@ -228,7 +228,7 @@ void tst_ImportResultPage::cleanup()
 QString tst_ImportResultPage::makeTools(const QMap<QString, QString>& changes)
 {
     const QDir folder(newFolder());
-    // A real 100 × 50 JPEG for enblend to "write".
+    // A real 100 × 50 JPEG for the blender to "write".
     QImage picture(100, 50, QImage::Format_RGB32);
     picture.fill(QColor(40, 120, 200));
     const QString jpeg = folder.filePath(QStringLiteral("blended.jpg"));
@@ -244,7 +244,7 @@ QString tst_ImportResultPage::makeTools(const QMap<QString, QString>& changes)
         { QStringLiteral("nona"),
             QStringLiteral("for i in $images; do printf x > \"$(printf '%s%04d.tif' \"$out\" "
                            "\"$i\")\"; done") },
-        { QStringLiteral("enblend"), QStringLiteral("cp '%1' \"$out\"").arg(jpeg) },
+        { QStringLiteral("verdandi"), QStringLiteral("cp '%1' \"$out\"").arg(jpeg) },
     };
     for (auto it = changes.constBegin(); it != changes.constEnd(); ++it)
         tools[it.key()] = it.value();
@@ -315,10 +315,13 @@ void tst_ImportResultPage::progressReachesEveryStep()
 {
     QStringList shown;
     QVector<int> steps;
+    QStringList counted;
     connect(m_page.data(), &ImportResultPage::StitchStep, this, [&](const StepEvent& event) {
         if (event.phase == StepEvent::Started) {
             shown << m_page->ProgressWidget()->StepText();
             steps << event.step;
+        } else if (event.phase == StepEvent::Progressed) {
+            counted << m_page->ProgressWidget()->StepText();
         }
     });
     QSignalSpy running(m_page.data(), &ImportResultPage::StitchingChanged);
@@ -331,6 +334,11 @@ void tst_ImportResultPage::progressReachesEveryStep()
     for (int i = 0; i < AllNames.size(); ++i)
         expected << QStringLiteral("Step %1 of 7: %2").arg(i + 1).arg(AllNames[i]);
     QCOMPARE(shown, expected);
+    // The remapping counts its three pictures.
+    QStringList remapped;
+    for (int done = 0; done <= 3; ++done)
+        remapped << QStringLiteral("Step 6 of 7: Remapping %1 of 3").arg(done);
+    QCOMPARE(counted, remapped);
     QCOMPARE(running.size(), 2);
     QCOMPARE(running[0].first().toBool(), true);
     QCOMPARE(running[1].first().toBool(), false);
@@ -378,8 +386,8 @@ void tst_ImportResultPage::eventLoopRunsDuringAStitch()
 void tst_ImportResultPage::cancelEndsTheSleepingTool()
 {
     const QDir out(newFolder());
-    const QString pidFile = out.filePath(QStringLiteral("enblend.pid"));
-    m_tools = makeTools({ { QStringLiteral("enblend"),
+    const QString pidFile = out.filePath(QStringLiteral("verdandi.pid"));
+    m_tools = makeTools({ { QStringLiteral("verdandi"),
         QStringLiteral("printf partial > \"$out\"; echo $$ > '%1'; sleep 60").arg(pidFile) } });
     host()->SetToolsFolder(m_tools);
     QSignalSpy finished(m_page.data(), &ImportResultPage::StitchFinished);
@@ -400,7 +408,7 @@ void tst_ImportResultPage::cancelEndsTheSleepingTool()
     QTRY_VERIFY_WITH_TIMEOUT(!processRuns(pid), 3000);
     QVERIFY(!m_page->IsStitching());
     QVERIFY(m_page->isComplete());
-    // Neither the panorama nor enblend's partial file is left.
+    // Neither the panorama nor the blender's partial file is left.
     QVERIFY(out.entryList({ QStringLiteral("*.jpg") }).isEmpty());
     QCOMPARE(m_page->findChild<QLabel*>(QStringLiteral("m_lbSaved"))->text(),
         QStringLiteral("The stitch was cancelled; no panorama was written."));
@@ -679,26 +687,38 @@ void tst_ImportResultPage::hostCatalogues_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("stitch");
     QTest::addColumn<QString>("remapping");
+    // The progress line while the sixth of seven steps has remapped 12 of 30 pictures.
+    QTest::addColumn<QString>("counted");
     QTest::newRow("fr_FR") << "fr_FR" << QStringLiteral("Assembler le panorama...")
-                           << QStringLiteral("Reprojection");
+                           << QStringLiteral("Reprojection")
+        << QStringLiteral("Étape 6 sur 7 : Reprojection : 12 sur 30");
     QTest::newRow("de") << "de" << QStringLiteral("Panorama zusammenfügen...")
-                        << QStringLiteral("Umrechnen");
+                        << QStringLiteral("Umrechnen")
+        << QStringLiteral("Schritt 6 von 7: Umrechnen: 12 von 30");
     QTest::newRow("es") << "es" << QStringLiteral("Coser panorama...")
-                        << QStringLiteral("Reproyectando");
+                        << QStringLiteral("Reproyectando")
+        << QStringLiteral("Paso 6 de 7: Reproyectando: 12 de 30");
     QTest::newRow("it") << "it" << QStringLiteral("Unisci panorama...")
-                        << QStringLiteral("Riproiezione");
+                        << QStringLiteral("Riproiezione")
+        << QStringLiteral("Passo 6 di 7: Riproiezione: 12 di 30");
     QTest::newRow("pl") << "pl" << QStringLiteral("Sklej panoramę...")
-                        << QStringLiteral("Przekształcanie");
+                        << QStringLiteral("Przekształcanie")
+        << QStringLiteral("Krok 6 z 7: Przekształcanie: 12 z 30");
     QTest::newRow("ru") << "ru" << QStringLiteral("Сшить панораму...")
-                        << QStringLiteral("Перепроецирование");
+                        << QStringLiteral("Перепроецирование")
+        << QStringLiteral("Шаг 6 из 7: Перепроецирование: 12 из 30");
     QTest::newRow("ja") << "ja" << QStringLiteral("パノラマをスティッチ...")
-                        << QStringLiteral("リマップ");
+                        << QStringLiteral("リマップ")
+        << QStringLiteral("ステップ 6/7: リマップ 12/30");
     QTest::newRow("zh_CN") << "zh_CN" << QStringLiteral("拼接全景图...")
-                           << QStringLiteral("重映射");
+                           << QStringLiteral("重映射")
+        << QStringLiteral("第 6 步，共 7 步：重映射：第 12 张，共 30 张");
     QTest::newRow("zh_TW") << "zh_TW" << QStringLiteral("拼接全景圖...")
-                           << QStringLiteral("重新映射");
+                           << QStringLiteral("重新映射")
+        << QStringLiteral("第 6 步，共 7 步：重新映射：第 12 張，共 30 張");
     QTest::newRow("en_GB") << "en_GB" << QStringLiteral("Stitch panorama...")
-                           << QStringLiteral("Remapping");
+                           << QStringLiteral("Remapping")
+        << QStringLiteral("Step 6 of 7: Remapping 12 of 30");
 }
 
 void tst_ImportResultPage::hostCatalogues()
@@ -706,11 +726,24 @@ void tst_ImportResultPage::hostCatalogues()
     QFETCH(QString, locale);
     QFETCH(QString, stitch);
     QFETCH(QString, remapping);
+    QFETCH(QString, counted);
     host()->SetLocale(QLocale(locale));
     QVERIFY(host()->LoadHostTranslation());
     ImportResultPage page(host());
     QCOMPARE(page.findChild<QPushButton*>(QStringLiteral("m_pbStitch"))->text(), stitch);
     QCOMPARE(StitchProgressWidget::StepName(QStringLiteral("Remapping")), remapping);
+    StitchProgressWidget progress;
+    progress.Begin();
+    StepEvent event;
+    event.phase = StepEvent::Progressed;
+    event.step = 6;
+    event.count = 7;
+    event.tool = QStringLiteral("nona");
+    event.name = QStringLiteral("Remapping");
+    event.done = 12;
+    event.total = 30;
+    progress.ShowStep(event);
+    QCOMPARE(progress.StepText(), counted);
     host()->SetLocale(QLocale::c());
     QVERIFY(!host()->LoadHostTranslation());
     QCOMPARE(

@@ -11,7 +11,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
 
 #include <thread>
@@ -56,6 +58,11 @@ struct Shoot
     /// Stack 1 is also linked to stack 2, which it cannot meet (yaw 40 and
     /// 160), and cpfind finds one point between them.
     bool wrongLink = false;
+    /// "For a stack:" 0 hard links, 1 detect control points.
+    int stackLinking = 0;
+    float focalLength = 0;
+    bool useRecordedLocation = true;
+    bool skipOptimization = false;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -126,12 +133,23 @@ private:
 
 const QStringList AllTools = { QStringLiteral("cpfind"), QStringLiteral("links"),
     QStringLiteral("cpclean"), QStringLiteral("autooptimiser"), QStringLiteral("pano_modify"),
-    QStringLiteral("nona"), QStringLiteral("enblend") };
+    QStringLiteral("nona"), QStringLiteral("verdandi") };
 const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Removing points between positions that do not meet"),
     QStringLiteral("Removing wrong points"), QStringLiteral("Placing the pictures"),
     QStringLiteral("Choosing canvas and crop"), QStringLiteral("Remapping"),
     QStringLiteral("Blending") };
+
+/// The events that start and end steps, without the counts of pictures.
+QVector<StepEvent> startsAndEnds(const QVector<StepEvent>& events)
+{
+    QVector<StepEvent> kept;
+    for (const StepEvent& event : events) {
+        if (event.phase != StepEvent::Progressed)
+            kept << event;
+    }
+    return kept;
+}
 
 } // namespace
 
@@ -160,6 +178,14 @@ private slots:
     void hdrNeedsAFloatFormat();
     void cleanWrongLink_data();
     void cleanWrongLink();
+    void remapCountsPictures_data();
+    void remapCountsPictures();
+    void remapFailureNamesThePicture();
+    void cancelEndsEveryNona();
+    void referencesOnlyWithHardLinks_data();
+    void referencesOnlyWithHardLinks();
+    void optimisesWhatTheHeadLeavesOpen_data();
+    void optimisesWhatTheHeadLeavesOpen();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
@@ -221,6 +247,10 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     panorama.m_autoDetection = shoot.autoDetection;
     panorama.m_outputMode = shoot.outputMode;
     panorama.m_cleanWrongLinks = shoot.cleanWrongLinks;
+    panorama.m_stackLinking = shoot.stackLinking;
+    panorama.m_focalLength = shoot.focalLength;
+    panorama.m_useRecordedLocation = shoot.useRecordedLocation;
+    panorama.m_skipOptimization = shoot.skipOptimization;
     QString error;
     if (!DescriptionJson::write(panorama, folder.filePath(QStringLiteral("shoot.json")), &error))
         return options;
@@ -269,7 +299,7 @@ void tst_StitchPipeline::progress()
     QVERIFY(result.error.isEmpty());
 
     // Every step starts, then ends well, in order, on the worker's thread.
-    const QVector<StepEvent>& events = worker.events();
+    const QVector<StepEvent> events = startsAndEnds(worker.events());
     QCOMPARE(events.size(), 2 * count);
     QVERIFY(worker.callbacksOnWorker());
     for (int i = 0; i < count; ++i) {
@@ -303,7 +333,7 @@ void tst_StitchPipeline::progress()
     QCOMPARE(result.stitchedProject, folder.filePath(QStringLiteral("shoot.stitch/05-final.pto")));
     QCOMPARE(result.log, folder.filePath(QStringLiteral("shoot.stitch/stitch.log")));
     QVERIFY(QFileInfo(result.log).size() > 0);
-    // enblend wrote beside the panorama; only the checked panorama is left.
+    // The blender wrote beside the panorama; only the checked panorama is left.
     QCOMPARE(folder.entryList({ QStringLiteral("*.tif") }), QStringList { "shoot.tif" });
 }
 
@@ -341,14 +371,14 @@ void tst_StitchPipeline::failure_data()
     QTest::newRow("nona writes nothing")
         << "nona"
         << "exit 0" << 6 << "nona wrote no remapped picture" << QString();
-    QTest::newRow("enblend fails")
-        << "enblend"
-        << "printf x > \"$out\"; echo 'out of memory'; exit 1" << 7 << "enblend exit code 1: "
+    QTest::newRow("verdandi fails")
+        << "verdandi"
+        << "printf x > \"$out\"; echo 'out of memory'; exit 1" << 7 << "verdandi exit code 1: "
         << " | out of memory";
-    QTest::newRow("enblend writes no picture")
-        << "enblend"
+    QTest::newRow("verdandi writes no picture")
+        << "verdandi"
         << "echo garbage > \"$out\"" << 7
-        << "enblend wrote a panorama of -1 × -1 instead of 100 × 50" << QString();
+        << "verdandi wrote a panorama of -1 × -1 instead of 100 × 50" << QString();
 }
 
 void tst_StitchPipeline::failure()
@@ -378,7 +408,7 @@ void tst_StitchPipeline::failure()
     QVERIFY(QFileInfo(result.log).isFile());
 
     // The steps before it ended well; the failed one ends with its reason.
-    const QVector<StepEvent>& events = worker.events();
+    const QVector<StepEvent> events = startsAndEnds(worker.events());
     QCOMPARE(events.size(), 2 * step);
     for (int i = 0; i < events.size(); ++i) {
         QCOMPARE(events[i].step, i / 2 + 1);
@@ -528,9 +558,9 @@ void tst_StitchPipeline::endsTheProcessGroup_data()
     QTest::newRow("cpfind stopped") << "cpfind" << project << 1 << true;
     QTest::newRow("cpclean stopped") << "cpclean" << project << 3 << true;
     QTest::newRow("nona stopped") << "nona" << remapped << 6 << true;
-    QTest::newRow("enblend stopped") << "enblend" << project << 7 << true;
+    QTest::newRow("verdandi stopped") << "verdandi" << project << 7 << true;
     QTest::newRow("cpfind timed out") << "cpfind" << project << 1 << false;
-    QTest::newRow("enblend timed out") << "enblend" << project << 7 << false;
+    QTest::newRow("verdandi timed out") << "verdandi" << project << 7 << false;
 }
 
 void tst_StitchPipeline::endsTheProcessGroup()
@@ -629,10 +659,10 @@ void tst_StitchPipeline::render_data()
     QTest::addColumn<QString>("panorama");
     QTest::addColumn<QString>("preview");
     const QString detection = QStringLiteral("cpfind links cpclean autooptimiser pano_modify ");
-    const QString fused = detection + QStringLiteral("nona enfuse enblend");
+    const QString fused = detection + QStringLiteral("nona enfuse verdandi");
     const QString hdr = fused + QStringLiteral(" nona hugin_hdrmerge enblend");
     QTest::newRow("single pictures") << false << -1 << Output::Automatic << false
-                                     << detection + QStringLiteral("nona enblend") << "shoot.tif"
+                                     << detection + QStringLiteral("nona verdandi") << "shoot.tif"
                                      << "";
     QTest::newRow("stacks fused") << true << -1 << Output::Automatic << false << fused
                                   << "shoot.tif"
@@ -647,11 +677,11 @@ void tst_StitchPipeline::render_data()
                                << "shoot.jpg";
     QTest::newRow("HDR of single pictures")
         << false << -1 << Output::Hdr << false
-        << detection + QStringLiteral("nona enblend nona hugin_hdrmerge enblend") << "shoot.exr"
+        << detection + QStringLiteral("nona verdandi nona hugin_hdrmerge enblend") << "shoot.exr"
         << "shoot.jpg";
     QTest::newRow("clean wrong link")
         << false << -1 << Output::Automatic << true
-        << QStringLiteral("cpfind links cpclean autooptimiser linkcheck pano_modify nona enblend")
+        << QStringLiteral("cpfind links cpclean autooptimiser linkcheck pano_modify nona verdandi")
         << "shoot.tif"
         << "";
 }
@@ -863,6 +893,273 @@ void tst_StitchPipeline::cleanWrongLink()
     } else {
         QVERIFY(note.isEmpty());
     }
+}
+
+void tst_StitchPipeline::remapCountsPictures_data()
+{
+    QTest::addColumn<bool>("stacked");
+    QTest::addColumn<Output>("mode");
+    // The steps that count their pictures, with how many each remaps.
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("pictures");
+    QTest::newRow("single pictures")
+        << false << Output::Fused << QStringList { QStringLiteral("Remapping") } << 3;
+    QTest::newRow("stacks fused")
+        << true << Output::Fused << QStringList { QStringLiteral("Remapping") } << 6;
+    QTest::newRow("stacks HDR") << true << Output::Hdr
+                                << QStringList { QStringLiteral("Remapping"),
+                                       QStringLiteral("Remapping to linear light") }
+                                << 6;
+}
+
+void tst_StitchPipeline::remapCountsPictures()
+{
+    QFETCH(bool, stacked);
+    QFETCH(Output, mode);
+    QFETCH(QStringList, names);
+    QFETCH(int, pictures);
+    Shoot shoot;
+    shoot.stacked = stacked;
+    StitchPipeline::Options options = makeStitch({}, shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.mode = mode;
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QVERIFY(worker.callbacksOnWorker());
+
+    // Between a counting step's start and end: 0, 1, ... of all its pictures,
+    // in order, each naming the step.
+    QStringList counted;
+    const QVector<StepEvent>& events = worker.events();
+    for (int i = 0; i < events.size(); ++i) {
+        if (events[i].phase != StepEvent::Progressed)
+            continue;
+        const StepEvent& start = events[i - 1];
+        QCOMPARE(start.phase, StepEvent::Started);
+        counted << start.name;
+        for (int done = 0; done <= pictures; ++done, ++i) {
+            const StepEvent& event = events[i];
+            QCOMPARE(event.phase, StepEvent::Progressed);
+            QCOMPARE(event.done, done);
+            QCOMPARE(event.total, pictures);
+            QCOMPARE(event.step, start.step);
+            QCOMPARE(event.count, start.count);
+            QCOMPARE(event.tool, QStringLiteral("nona"));
+            QCOMPARE(event.name, start.name);
+        }
+        QCOMPARE(events[i].phase, StepEvent::Done);
+        QCOMPARE(events[i].step, start.step);
+        QCOMPARE(events[i].note, QStringLiteral("%1 of %1 pictures").arg(pictures));
+    }
+    QCOMPARE(counted, names);
+    // Every other step starts and ends without counts.
+    for (const StepEvent& event : events) {
+        if (event.phase != StepEvent::Progressed) {
+            QCOMPARE(event.done, 0);
+            QCOMPARE(event.total, 0);
+        }
+    }
+    // One nona per picture, each given one picture.
+    QFile log(worker.result().log);
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QStringList runs = QString::fromLocal8Bit(log.readAll())
+                                 .split(QLatin1Char('\n'))
+                                 .filter(QRegularExpression(QStringLiteral("^\\$ nona ")));
+    QCOMPARE(runs.size(), pictures * names.size());
+    for (const QString& run : runs)
+        QCOMPARE(run.count(QStringLiteral(" -i ")), 1);
+}
+
+void tst_StitchPipeline::remapFailureNamesThePicture()
+{
+    // Picture 1 of three cannot be remapped; the others can.
+    const QString nona = StandInTools::wellBehaved().value(QStringLiteral("nona"));
+    StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"),
+        QStringLiteral("case \"$images\" in *1*) echo 'cannot read P2.jpg'; exit 4;; esac\n")
+            + nona } });
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QCOMPARE(result.outcome, Result::Failed);
+    QCOMPARE(result.step, 6);
+    QCOMPARE(result.tool, QStringLiteral("nona"));
+    // The reason ends with the last lines of that picture's nona.
+    QVERIFY2(result.error.startsWith(QStringLiteral("image 1: nona exit code 4: ")),
+        qPrintable(result.error));
+    QVERIFY2(result.error.endsWith(QStringLiteral(" -i 1 %1 | cannot read P2.jpg")
+                                       .arg(QFileInfo(result.stitchedProject).absoluteFilePath())),
+        qPrintable(result.error));
+    QCOMPARE(worker.events().last().phase, StepEvent::Failed);
+    QCOMPARE(worker.events().last().note, result.error);
+    QVERIFY(!QFileInfo::exists(result.panorama));
+}
+
+void tst_StitchPipeline::cancelEndsEveryNona()
+{
+    // Each nona starts a program of its own, says which one, and waits.
+    const QString states = m_dir.filePath(QStringLiteral("nonas-%1").arg(m_folders + 1));
+    QVERIFY(QDir().mkpath(states));
+    const QString script = QStringLiteral("sleep 30 &\n"
+                                          "echo \"$$ $!\" > \"%1/tmp-$$\"\n"
+                                          "mv \"%1/tmp-$$\" \"%1/$$\"\n"
+                                          "sleep 30")
+                               .arg(states);
+    Shoot shoot;
+    shoot.stacked = true;
+    StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"), script } }, shoot);
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    // As many run at once as there are cores, up to the six pictures.
+    const int parallel = qBound(1, QThread::idealThreadCount(), 6);
+    const QDir folder(states);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files).size() == parallel, 10000);
+    QTest::qWait(300);
+    const QStringList started = folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files);
+    QCOMPARE(started.size(), parallel);
+    QVector<qint64> pids;
+    for (const QString& name : started) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        for (const QString& pid :
+            QString::fromLocal8Bit(file.readAll()).trimmed().split(QLatin1Char(' ')))
+            pids << pid.toLongLong();
+    }
+    QCOMPARE(pids.size(), 2 * parallel);
+    for (qint64 pid : pids)
+        QVERIFY(processRuns(pid));
+
+    QElapsedTimer timer;
+    timer.start();
+    pipeline.cancel();
+    QTRY_VERIFY_WITH_TIMEOUT(worker.done(), 2000);
+    worker.join();
+    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(worker.result().outcome, Result::Stopped);
+    QCOMPARE(worker.result().tool, QStringLiteral("nona"));
+    QCOMPARE(worker.events().last().phase, StepEvent::Stopped);
+    // Every nona and what each started ended; no further one started.
+    for (qint64 pid : pids)
+        QTRY_VERIFY_WITH_TIMEOUT(!processRuns(pid), 2000);
+    QCOMPARE(folder.entryList({ QStringLiteral("[0-9]*") }, QDir::Files).size(), parallel);
+    const QDir work(worker.result().workFolder);
+    QVERIFY(work.entryList({ QStringLiteral("remapped*") }).isEmpty());
+}
+
+void tst_StitchPipeline::referencesOnlyWithHardLinks_data()
+{
+    QTest::addColumn<int>("stackLinking");
+    // How many images cpclean and autooptimiser are given.
+    QTest::addColumn<int>("images");
+    QTest::newRow("hard links") << 0 << 3;
+    QTest::newRow("points inside stacks") << 1 << 6;
+}
+
+void tst_StitchPipeline::referencesOnlyWithHardLinks()
+{
+    QFETCH(int, stackLinking);
+    QFETCH(int, images);
+    Shoot shoot;
+    shoot.stacked = true;
+    shoot.stackLinking = stackLinking;
+    const QString calls = m_dir.filePath(QStringLiteral("calls-%1").arg(m_folders + 1));
+    // autooptimiser turns the second position (yaw 40) to yaw 41 and its
+    // field of view to 50.
+    const QString count = QStringLiteral("echo \"$(basename $0) $(grep -c '^i ' \"$last\")\" >> \"%1\"\n")
+                              .arg(calls);
+    StitchPipeline::Options options = makeStitch(
+        { { QStringLiteral("cpclean"), count + QStringLiteral("cp \"$last\" \"$out\"") },
+            { QStringLiteral("autooptimiser"),
+                count
+                    + QStringLiteral("sed -e 's/ y40 / y41 /' -e 's/ v52.6 / v50 /' \"$last\" > "
+                                     "\"$out\"") } },
+        shoot);
+    QVERIFY(!options.project.isEmpty());
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromLocal8Bit(file.readAll()),
+        QStringLiteral("cpclean %1\nautooptimiser %1\n").arg(images));
+
+    // The whole project comes out, every exposure where its reference is,
+    // with the reference's lens, and the control point between the references.
+    PtoProject final;
+    QString error;
+    QVERIFY2(final.read(result.stitchedProject, &error), qPrintable(error));
+    QCOMPARE(final.imageCount(), 6);
+    const double yaws[] = { 0, 0, 41, 41, 160, 160 };
+    for (int i = 0; i < 6; ++i) {
+        bool ok = false;
+        QCOMPARE(final.number(i, QStringLiteral("y"), &ok), yaws[i]);
+        QVERIFY(ok);
+        QCOMPARE(final.number(i, QStringLiteral("v"), &ok), 50.0);
+        QCOMPARE(final.imageName(i).section(QLatin1Char('/'), -1),
+            QStringLiteral("P%1%2.jpg").arg(i / 2 + 1).arg(i % 2 ? "b" : ""));
+    }
+    QCOMPARE(final.value(1, QStringLiteral("Eev")), QStringLiteral("13.9"));
+    QCOMPARE(final.controlPoints().size(), 1);
+    QCOMPARE(final.controlPoints().first().first, 0);
+    QCOMPARE(final.controlPoints().first().second, stackLinking == 0 ? 2 : 1);
+}
+
+void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen_data()
+{
+    QTest::addColumn<float>("focalLength");
+    QTest::addColumn<bool>("recorded");
+    QTest::addColumn<bool>("skip");
+    // autooptimiser's options (single pictures: with photometric
+    // optimisation) and the project's v lines it is given.
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("variables");
+    QTest::newRow("recorded positions, known focal length")
+        << 35.0f << true << false << "-n -m -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("unknown focal length")
+        << 0.0f << true << false << "-n -m -l -s" << "v v0|v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("every pair searched")
+        << 35.0f << false << false << "-a -m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+    QTest::newRow("skip optimization")
+        << 35.0f << true << true << "-m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+}
+
+void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
+{
+    QFETCH(float, focalLength);
+    QFETCH(bool, recorded);
+    QFETCH(bool, skip);
+    QFETCH(QString, options);
+    QFETCH(QString, variables);
+    Shoot shoot;
+    shoot.focalLength = focalLength;
+    shoot.useRecordedLocation = recorded;
+    shoot.skipOptimization = skip;
+    const QString calls = m_dir.filePath(QStringLiteral("calls-%1").arg(m_folders + 1));
+    StitchPipeline::Options stitch = makeStitch({ { QStringLiteral("autooptimiser"),
+                                                    QStringLiteral("echo \"$*\" >> \"%1\"\n"
+                                                                   "grep '^v' \"$last\" | tr '\\n' "
+                                                                   "'|' >> \"%1\"\n"
+                                                                   "cp \"$last\" \"$out\"")
+                                                        .arg(calls) } },
+        shoot);
+    QVERIFY(!stitch.project.isEmpty());
+    StitchPipeline pipeline(stitch);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines[0].startsWith(options + QStringLiteral(" -o ")), qPrintable(lines[0]));
+    QCOMPARE(lines[1], variables);
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
