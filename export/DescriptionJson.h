@@ -7,6 +7,7 @@
 
 #include "StructuredPanoramaProperties.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 
@@ -26,4 +27,8 @@ public:
     static bool write(
         const StructuredPanoramaProperties& panorama, const QString& path, QString* error);
     static bool read(const QString& path, StructuredPanoramaProperties* panorama, QString* error);
+    /// read() over the file's bytes: a JSON object, then fromJson(). False
+    /// with the reason (without a file name) in *error.
+    static bool parse(
+        const QByteArray& bytes, StructuredPanoramaProperties* panorama, QString* error);
 };
