@@ -76,6 +76,7 @@ dict_of() {
     fuzz_papywizard) echo "$root/fuzz/papywizard.dict" ;;
     fuzz_clauss) echo "$root/fuzz/clauss.dict" ;;
     fuzz_image_definition) echo "$root/fuzz/image_definition.dict" ;;
+    fuzz_pto_reader) echo "$root/fuzz/pto.dict" ;;
     *) echo "" ;;
   esac
 }
