@@ -2,9 +2,9 @@
 
 #include "FullFrame.h"
 
+#include <QBuffer>
 #include <QDomDocument>
 #include <QDomElement>
-#include <QBuffer>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QXmlStreamReader>

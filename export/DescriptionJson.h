@@ -17,8 +17,9 @@ public:
     static QJsonObject toJson(const StructuredPanoramaProperties& panorama);
 
     /// Fills *panorama from object. Every member must be present with its
-    /// type (integers must be whole numbers in range, link indices must name
-    /// existing stacks); members of other names are ignored. False with a
+    /// type (integers must be whole numbers in range, angles and the focal
+    /// length must fit a float, link indices must name existing stacks);
+    /// members of other names are ignored. False with a
     /// reason naming the member in *error; *panorama is then unchanged.
     static bool fromJson(
         const QJsonObject& object, StructuredPanoramaProperties* panorama, QString* error);
