@@ -22,8 +22,10 @@ constexpr double kPi = 3.141592653589793;
 /// Two photos are linked when their angular distance times this factor is
 /// below the half diagonal field of view of either of them.
 constexpr float kLinkFactor = 0.7f;
-/// Bytes read from a script at a time.
+/// Bytes read from a script at a time: at most kReadChunk, at least
+/// kSmallestChunk (what is left of a file that is still growing may be 0).
 constexpr qint64 kReadChunk = 1 << 20;
+constexpr qint64 kSmallestChunk = 4096;
 /// A script holds a few dozen bytes per shot; one larger than this before its
 /// first NUL byte is not a script, and reading it whole would take gigabytes.
 constexpr int kMaxScriptBytes = 64 << 20;
@@ -84,27 +86,33 @@ bool ClaussToSPP::parse(const QString& fileName)
         qCWarning(lcClauss) << "cannot open script" << fileName << file.errorString();
         return false;
     }
-    QString text;
-    {
-        // The script is UTF-8 text; it ends at the first NUL byte, if any, so
-        // reading stops there.
-        QByteArray bytes;
-        int nul = -1;
-        while (nul < 0 && !file.atEnd()) {
-            const int from = bytes.size();
-            const QByteArray chunk = file.read(kReadChunk);
-            if (chunk.isEmpty())
-                break;
-            bytes.append(chunk);
-            nul = bytes.indexOf('\0', from);
-            if (nul < 0 && bytes.size() > kMaxScriptBytes) {
-                qCWarning(lcClauss) << fileName << "is too large for a script:" << file.size();
-                return false;
-            }
+    // The script is UTF-8 text; it ends at the first NUL byte, if any, so
+    // reading stops there. Chunks are no larger than what is left of the
+    // file, so a small script costs a small buffer.
+    QByteArray bytes;
+    int nul = -1;
+    while (nul < 0 && !file.atEnd()) {
+        const int from = bytes.size();
+        const QByteArray chunk
+            = file.read(qBound<qint64>(kSmallestChunk, file.bytesAvailable(), kReadChunk));
+        if (chunk.isEmpty())
+            break;
+        bytes.append(chunk);
+        nul = bytes.indexOf('\0', from);
+        if (nul < 0 && bytes.size() > kMaxScriptBytes) {
+            qCWarning(lcClauss) << fileName << "is too large for a script:" << file.size();
+            return false;
         }
-        file.close();
-        text = QString::fromUtf8(bytes.constData(), nul < 0 ? bytes.size() : nul);
     }
+    file.close();
+    return parseScript(bytes, fileName);
+}
+
+bool ClaussToSPP::parseScript(const QByteArray& bytes, const QString& fileName)
+{
+    m_shots.clear();
+    const int nul = bytes.indexOf('\0');
+    const QString text = QString::fromUtf8(bytes.constData(), nul < 0 ? bytes.size() : nul);
 
     // Capture 1 is the command, capture 2 its value: both runs of letters,
     // digits, underscores and hyphens, so a decimal point ends a value and a

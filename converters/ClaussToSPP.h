@@ -6,6 +6,7 @@
 
 #include "StructuredPanoramaProperties.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -28,6 +29,9 @@ public:
     /// the bad angle counts as 0. A script without shots is not an error.
     /// A file of more than 64 MiB before its first NUL byte is refused (false).
     bool parse(const QString& fileName);
+    /// parse() over the script's bytes (the text ends at the first NUL byte);
+    /// fileName only names the script in warnings. No size limit applies.
+    bool parseScript(const QByteArray& bytes, const QString& fileName);
 
     /// Appends to the description one stack per path of files, the yaw and
     /// pitch of every shot in radians, and a link (direction 0) for every pair

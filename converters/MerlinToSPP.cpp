@@ -2,6 +2,7 @@
 
 #include "FullFrame.h"
 
+#include <QBuffer>
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFile>
@@ -134,16 +135,7 @@ MerlinToSPP::MerlinToSPP()
 
 bool MerlinToSPP::parse(const QString& fileName)
 {
-    m_shoots.clear();
-    m_title.clear();
-    m_gps.clear();
-    m_comment.clear();
-    m_sensorCoef = 1.0;
-    m_nbPicts = -1;
-    m_xmlFocal = -1.0;
-    m_xmlLensType = LensStandard;
-    m_portrait = false;
-
+    clearRecord();
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         qCDebug(lcMerlin) << "cannot open" << fileName << file.errorString();
@@ -153,14 +145,46 @@ bool MerlinToSPP::parse(const QString& fileName)
         qCDebug(lcMerlin) << fileName << "is too large for a record:" << file.size();
         return false;
     }
-    if (!isSafeDocument(&file) || !file.reset())
+    return readRecord(&file, fileName);
+}
+
+bool MerlinToSPP::parseRecord(const QByteArray& bytes)
+{
+    clearRecord();
+    if (bytes.size() > kMaxRecordBytes) {
+        qCDebug(lcMerlin) << "a record of" << bytes.size() << "bytes is too large";
+        return false;
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    if (!buffer.open(QIODevice::ReadOnly))
+        return false;
+    return readRecord(&buffer, QStringLiteral("the record"));
+}
+
+void MerlinToSPP::clearRecord()
+{
+    m_shoots.clear();
+    m_title.clear();
+    m_gps.clear();
+    m_comment.clear();
+    m_sensorCoef = 1.0;
+    m_nbPicts = -1;
+    m_xmlFocal = -1.0;
+    m_xmlLensType = LensStandard;
+    m_portrait = false;
+}
+
+bool MerlinToSPP::readRecord(QIODevice* device, const QString& name)
+{
+    if (!isSafeDocument(device) || !device->reset())
         return false;
 
     QDomDocument document;
-    const bool wellFormed = document.setContent(&file, false);
-    file.close();
+    const bool wellFormed = document.setContent(device, false);
+    device->close();
     if (!wellFormed) {
-        qCDebug(lcMerlin) << fileName << "is not well-formed XML";
+        qCDebug(lcMerlin) << name << "is not well-formed XML";
         return false;
     }
 

@@ -5,11 +5,13 @@
 
 #include "StructuredPanoramaProperties.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 class QDomElement;
+class QIODevice;
 
 class MerlinToSPP : public StructuredPanoramaProperties
 {
@@ -22,6 +24,8 @@ public:
     /// documents that declare entities; the members then keep their reset
     /// values. Missing elements are never errors.
     bool parse(const QString& fileName);
+    /// parse() over a record's bytes, with the same limits.
+    bool parseRecord(const QByteArray& bytes);
 
     /// Appends stacks, angles (radians), focal length, lens and links to the
     /// description. images: the photographs in shooting order. focalLength:
@@ -49,6 +53,10 @@ public:
     bool m_portrait = false;
 
 private:
+    /// The members above to their values before any record is read.
+    void clearRecord();
+    /// Reads the open device (name names it in messages) into the members.
+    bool readRecord(QIODevice* device, const QString& name);
     void readShots(const QDomElement& shoot);
     void readHeader(const QDomElement& header);
     /// Links between the first s stacks, each placed by its first shot.

@@ -61,6 +61,17 @@ public:
         return member(name, QJsonValue::Double, "a number").toDouble();
     }
 
+    /// A number that a float holds (finite once rounded to one).
+    float single(const char* name)
+    {
+        const float f = float(real(name));
+        if (!std::isfinite(f)) {
+            fail(QStringLiteral("member \"%1\" is out of range").arg(QLatin1String(name)));
+            return 0.0f;
+        }
+        return f;
+    }
+
     QString text(const char* name)
     {
         return member(name, QJsonValue::String, "a string").toString();
@@ -76,7 +87,13 @@ public:
                          .arg(QLatin1String(name)));
                 return {};
             }
-            values.append(float(v.toDouble()));
+            const float f = float(v.toDouble());
+            if (!std::isfinite(f)) {
+                fail(QStringLiteral("member \"%1\" holds a number out of range")
+                         .arg(QLatin1String(name)));
+                return {};
+            }
+            values.append(f);
         }
         return values;
     }
@@ -193,7 +210,7 @@ bool DescriptionJson::fromJson(
     p.m_pitch = r.floats("pitch");
     p.m_roll = r.floats("roll");
     p.m_useShootData = r.boolean("useShootData");
-    p.m_focalLength = float(r.real("focalLength"));
+    p.m_focalLength = r.single("focalLength");
     const qint32 lens = r.integer("lensModel");
     if (lens < -1 || lens > 1)
         r.fail(QStringLiteral("member \"lensModel\" is not -1, 0 or 1"));
@@ -250,22 +267,26 @@ bool DescriptionJson::read(
             *error = QStringLiteral("cannot read %1: %2").arg(path, file.errorString());
         return false;
     }
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
-    if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
-        if (error)
-            *error = QStringLiteral("%1 is not a panorama description: %2")
-                         .arg(path,
-                             parseError.error != QJsonParseError::NoError
-                                 ? parseError.errorString()
-                                 : QStringLiteral("not a JSON object"));
-        return false;
-    }
     QString reason;
-    if (!fromJson(document.object(), panorama, &reason)) {
+    if (!parse(file.readAll(), panorama, &reason)) {
         if (error)
             *error = QStringLiteral("%1 is not a panorama description: %2").arg(path, reason);
         return false;
     }
     return true;
+}
+
+bool DescriptionJson::parse(
+    const QByteArray& bytes, StructuredPanoramaProperties* panorama, QString* error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
+    if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
+        if (error)
+            *error = parseError.error != QJsonParseError::NoError
+                ? parseError.errorString()
+                : QStringLiteral("not a JSON object");
+        return false;
+    }
+    return fromJson(document.object(), panorama, error);
 }

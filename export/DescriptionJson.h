@@ -7,6 +7,7 @@
 
 #include "StructuredPanoramaProperties.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 
@@ -16,8 +17,9 @@ public:
     static QJsonObject toJson(const StructuredPanoramaProperties& panorama);
 
     /// Fills *panorama from object. Every member must be present with its
-    /// type (integers must be whole numbers in range, link indices must name
-    /// existing stacks); members of other names are ignored. False with a
+    /// type (integers must be whole numbers in range, angles and the focal
+    /// length must fit a float, link indices must name existing stacks);
+    /// members of other names are ignored. False with a
     /// reason naming the member in *error; *panorama is then unchanged.
     static bool fromJson(
         const QJsonObject& object, StructuredPanoramaProperties* panorama, QString* error);
@@ -26,4 +28,8 @@ public:
     static bool write(
         const StructuredPanoramaProperties& panorama, const QString& path, QString* error);
     static bool read(const QString& path, StructuredPanoramaProperties* panorama, QString* error);
+    /// read() over the file's bytes: a JSON object, then fromJson(). False
+    /// with the reason (without a file name) in *error.
+    static bool parse(
+        const QByteArray& bytes, StructuredPanoramaProperties* panorama, QString* error);
 };

@@ -4,8 +4,8 @@
 #include "ClaussToSPP.h"
 #include "FuzzCheck.h"
 #include "FuzzImageDef.h"
-#include "FuzzTempFile.h"
 
+#include <QByteArray>
 #include <QStringList>
 
 #include <memory>
@@ -24,12 +24,10 @@ constexpr float kFocals[] = { 0.0f, 4.5f, 12.0f, 24.0f, 50.0f, 600.0f, 1e-30f, 3
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static FuzzTempFile file("clauss", ".txt");
-    if (!file.write(data, size))
-        return 0;
-
     ClaussToSPP conv;
-    conv.parse(file.path()); // false for a bad angle, but the shots read are kept
+    // False for a bad angle, but the shots read are kept.
+    conv.parseScript(QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(size)),
+        QStringLiteral("script"));
     const int shots = conv.m_shots.size();
     for (int k = 0; k < shots; ++k) {
         FUZZ_CHECK(conv.m_shots[k].m_id == k);

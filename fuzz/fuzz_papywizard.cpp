@@ -6,10 +6,10 @@
 // pages do before generating.
 #include "FuzzCheck.h"
 #include "FuzzImageDef.h"
-#include "FuzzTempFile.h"
 #include "MerlinToSPP.h"
 #include "VRDrive2ToSPP.h"
 
+#include <QByteArray>
 #include <QStringList>
 
 #include <algorithm>
@@ -85,12 +85,9 @@ float exposureFor(const uint8_t* data, size_t size, int k)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static FuzzTempFile file("papywizard", ".xml");
-    if (!file.write(data, size))
-        return 0;
-
     MerlinToSPP record;
-    if (!record.parse(file.path())) {
+    if (!record.parseRecord(
+            QByteArray::fromRawData(reinterpret_cast<const char*>(data), int(size)))) {
         checkResetValues(record);
         return 0;
     }

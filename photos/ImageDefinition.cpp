@@ -117,8 +117,10 @@ ImageDefinition* ImageDefinition::Read(
 
         // A JPEG is read once up to its picture data: exiv2 parses the
         // headers from memory. Other files exiv2 opens itself. A file exiv2
-        // cannot parse may still be a picture Qt reads.
-        const QByteArray firstChunk = file.read(JpegStructure::FirstChunkBytes);
+        // cannot parse may still be a picture Qt reads. A buffer no larger
+        // than the file: a small file costs a small buffer.
+        const QByteArray firstChunk
+            = file.read(qMin(JpegStructure::FirstChunkBytes, file.size()));
         const bool jpegSignature = JpegStructure::hasSignature(firstChunk);
         JpegStructure jpeg;
         if (jpegSignature) {

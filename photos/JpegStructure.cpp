@@ -19,7 +19,7 @@ JpegStructure JpegStructure::read(QFile& file, const QByteArray& firstChunk)
             return true;
         if (end > size || end > (qint64(1) << 30) || !file.seek(bytes.size()))
             return false;
-        bytes += file.read(qMax(end, bytes.size() + qint64(256 * 1024)) - bytes.size());
+        bytes += file.read(qMin(size, qMax(end, bytes.size() + qint64(256 * 1024))) - bytes.size());
         return end <= bytes.size();
     };
     auto data = [&] { return reinterpret_cast<const uchar*>(bytes.constData()); };

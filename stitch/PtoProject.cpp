@@ -113,6 +113,7 @@ bool PtoProject::parseImage(const QString& line, Image* image, QString* error)
         return false;
     }
     image->variables.clear();
+    image->variables.reserve(parts.size());
     image->name.clear();
     bool named = false;
     for (const QString& token : parts.mid(1)) {
@@ -152,8 +153,9 @@ bool PtoProject::parseImage(const QString& line, Image* image, QString* error)
 bool PtoProject::parse(const QString& text, QString* error)
 {
     QStringList lines = text.split(QLatin1Char('\n'));
+    // Carriage returns at a line's end belong to its line break, however many.
     for (QString& line : lines) {
-        if (line.endsWith(QLatin1Char('\r')))
+        while (line.endsWith(QLatin1Char('\r')))
             line.chop(1);
     }
     while (!lines.isEmpty() && lines.last().isEmpty())
