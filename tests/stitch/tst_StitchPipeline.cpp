@@ -24,13 +24,14 @@ using StepEvent = StitchPipeline::StepEvent;
 using Result = StitchPipeline::Result;
 
 /// Three stacks of one picture each: stacks 0 and 1 (yaw 0 and 40) are
-/// linked, stack 2 (yaw 160) is not.
+/// linked, stack 2 (yaw 160) is not. The camera chose a longer exposure for
+/// the third.
 const char ProjectText[] = "# written by ZPanoHead: 3 stacks, 3 images, 1 authorised links\n"
                            "p f2 w2736 h1368 v360 E12.9 R0 n\"TIFF_m c:LZW r:CROP\"\n"
                            "m i0\n"
                            "i w400 h300 f0 v52.6 Eev12.9 Er1 Eb1 r0 p0 y0 n\"P1.jpg\"\n"
                            "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y40 n\"P2.jpg\"\n"
-                           "i w400 h300 f0 v=0 Eev12.9 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
+                           "i w400 h300 f0 v=0 Eev13.4 Er1 Eb1 r0 p0 y160 n\"P3.jpg\"\n"
                            "v r1 p1 y1\nv r2 p2 y2\nv\n";
 
 /// The same three positions with two exposures each; the second of a stack
@@ -63,6 +64,8 @@ struct Shoot
     float focalLength = 0;
     bool useRecordedLocation = true;
     bool skipOptimization = false;
+    /// Single pictures all shot at one exposure value.
+    bool oneExposure = false;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -221,7 +224,10 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     QFile project(folder.filePath(QStringLiteral("shoot.pto")));
     if (!project.open(QIODevice::WriteOnly))
         return options;
-    project.write(shoot.stacked ? StackedProjectText : ProjectText);
+    QByteArray text = shoot.stacked ? StackedProjectText : ProjectText;
+    if (shoot.oneExposure)
+        text.replace("Eev13.4", "Eev12.9");
+    project.write(text);
     project.close();
     StructuredPanoramaProperties panorama;
     for (const char* name : { "P1", "P2", "P3" }) {
@@ -1116,18 +1122,24 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen_data()
     QTest::addColumn<float>("focalLength");
     QTest::addColumn<bool>("recorded");
     QTest::addColumn<bool>("skip");
+    QTest::addColumn<bool>("oneExposure");
     // autooptimiser's options (single pictures: with photometric
     // optimisation) and the project's v lines it is given.
     QTest::addColumn<QString>("options");
     QTest::addColumn<QString>("variables");
     QTest::newRow("recorded positions, known focal length")
-        << 35.0f << true << false << "-n -m -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
+        << 35.0f << true << false << false << "-n -m -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
     QTest::newRow("unknown focal length")
-        << 0.0f << true << false << "-n -m -l -s" << "v v0|v y1 p1 r1|v y2 p2 r2|v|";
+        << 0.0f << true << false << false << "-n -m -l -s" << "v v0|v y1 p1 r1|v y2 p2 r2|v|";
     QTest::newRow("every pair searched")
-        << 35.0f << false << false << "-a -m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+        << 35.0f << false << false << false << "-a -m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
     QTest::newRow("skip optimization")
-        << 35.0f << true << true << "-m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+        << 35.0f << true << true << false << "-m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+    // Nothing to bring to one exposure: no photometric optimisation.
+    QTest::newRow("one exposure value")
+        << 35.0f << true << false << true << "-n -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("one exposure value, every pair searched")
+        << 35.0f << false << false << true << "-a -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
 }
 
 void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
@@ -1135,12 +1147,14 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
     QFETCH(float, focalLength);
     QFETCH(bool, recorded);
     QFETCH(bool, skip);
+    QFETCH(bool, oneExposure);
     QFETCH(QString, options);
     QFETCH(QString, variables);
     Shoot shoot;
     shoot.focalLength = focalLength;
     shoot.useRecordedLocation = recorded;
     shoot.skipOptimization = skip;
+    shoot.oneExposure = oneExposure;
     const QString calls = m_dir.filePath(QStringLiteral("calls-%1").arg(m_folders + 1));
     StitchPipeline::Options stitch = makeStitch({ { QStringLiteral("autooptimiser"),
                                                     QStringLiteral("echo \"$*\" >> \"%1\"\n"
