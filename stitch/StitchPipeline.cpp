@@ -560,24 +560,78 @@ QVector<int> remappedImages(const Stitch& s)
     return all;
 }
 
+/// The pictures one nona remaps, in the order it writes them, and how many
+/// of them are written whole.
+struct NonaShare
+{
+    QVector<int> images;
+    int written = 0;
+};
+
+/// Deals images out to count nonas in turn, so that each one's pictures lie
+/// all over the panorama and take about as long as the others'.
+QVector<NonaShare> shareImages(const QVector<int>& images, int count)
+{
+    QVector<NonaShare> shares(qBound(1, count, qMax(1, int(images.size()))));
+    for (int i = 0; i < images.size(); ++i)
+        shares[i % shares.size()].images << images[i];
+    return shares;
+}
+
+/// "image 3", "images 0, 2, 4".
+QString imagesText(const QVector<int>& images)
+{
+    QStringList numbers;
+    for (int image : images)
+        numbers << QString::number(image);
+    return QStringLiteral("%1 %2").arg(
+        images.size() == 1 ? QStringLiteral("image") : QStringLiteral("images"),
+        numbers.join(QStringLiteral(", ")));
+}
+
 Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const QStringList& mode,
     const QVector<int>& images)
 {
     removeFiles(s, prefix + QStringLiteral("*"));
-    // One nona per picture, as many at once as there are cores: each picture
-    // is read, remapped and written independently of the others.
+    // One nona per core, each remapping its share of the pictures in one go:
+    // a nona takes a good part of a picture's remapping time to start.
     // Intermediate pictures are read once: compressing them costs time only.
     QStringList arguments = mode;
     arguments << QStringLiteral("-z") << QStringLiteral("NONE") << QStringLiteral("-o")
               << s.workFile(prefix);
+    QVector<NonaShare> shares = shareImages(images, QThread::idealThreadCount());
     QVector<ToolRunner::Job> jobs;
-    for (int image : images) {
-        jobs.append({ arguments
-                + QStringList { QStringLiteral("-i"), QString::number(image), s.current },
-            numberedFile(s, prefix, image, QStringLiteral("log")) });
+    for (int n = 0; n < shares.size(); ++n) {
+        QStringList own = arguments;
+        for (int image : qAsConst(shares[n].images))
+            own << QStringLiteral("-i") << QString::number(image);
+        jobs.append({ own << s.current,
+            s.workFile(QStringLiteral("%1-nona%2.log").arg(prefix).arg(n + 1)) });
     }
+    // A nona writes its pictures in turn, each whole before it starts the
+    // next: a picture counts as remapped once a later one of the same nona
+    // appears or that nona has ended. A picture that lies wholly outside the
+    // crop is never written, and counts with the next one.
+    int reported = 0;
     s.progressed(0, images.size());
-    int finished = 0;
+    const auto report = [&] {
+        int count = 0;
+        for (const NonaShare& share : qAsConst(shares))
+            count += share.written;
+        while (reported < count)
+            s.progressed(++reported, images.size());
+    };
+    const auto look = [&] {
+        for (NonaShare& share : shares) {
+            for (int i = share.images.size() - 1; i > share.written; --i) {
+                if (QFileInfo::exists(numberedFile(s, prefix, share.images[i], suffix))) {
+                    share.written = i;
+                    break;
+                }
+            }
+        }
+        report();
+    };
     Outcome outcome;
     const auto ended = [&](int job, const ToolRunner::Result& result) {
         // The log keeps each run's output whole, in the order the runs end.
@@ -589,16 +643,17 @@ Outcome runNona(Stitch& s, const QString& prefix, const QString& suffix, const Q
         if (!result.succeeded()) {
             if (outcome.error.isEmpty() && !result.stopped) {
                 outcome = toolFailure(QStringLiteral("nona"), result);
-                outcome.error = QStringLiteral("image %1: %2").arg(images[job]).arg(outcome.error);
+                outcome.error = QStringLiteral("%1: %2")
+                                    .arg(imagesText(shares[job].images), outcome.error);
             }
             return false;
         }
-        s.progressed(++finished, images.size());
+        shares[job].written = shares[job].images.size();
+        report();
         return true;
     };
     const QVector<ToolRunner::Result> results = s.tools.runEach(QStringLiteral("nona"), jobs,
-        s.work.absolutePath(), qMax(1, QThread::idealThreadCount()), s.options.timeoutSeconds,
-        s.stop, ended);
+        s.work.absolutePath(), shares.size(), s.options.timeoutSeconds, s.stop, ended, look);
     removeFiles(s, prefix + QStringLiteral("*.log"));
     const bool stopped = std::any_of(results.begin(), results.end(),
         [](const ToolRunner::Result& r) { return r.stopped; });

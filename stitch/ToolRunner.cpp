@@ -145,7 +145,7 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
 
 QVector<ToolRunner::Result> ToolRunner::runEach(const QString& name, const QVector<Job>& jobs,
     const QString& workingFolder, int parallel, int timeoutSeconds, const std::atomic<bool>* stop,
-    const Finished& finished) const
+    const Finished& finished, const Polled& polled) const
 {
     std::vector<Result> results(size_t(jobs.size()));
     std::mutex mutex;
@@ -203,6 +203,11 @@ QVector<ToolRunner::Result> ToolRunner::runEach(const QString& name, const QVect
     for (;;) {
         changed.wait_for(lock, std::chrono::milliseconds(PollMilliseconds / 2),
             [&] { return !ended.empty() || working == 0; });
+        if (polled) {
+            lock.unlock();
+            polled();
+            lock.lock();
+        }
         while (!ended.empty()) {
             const int job = ended.front();
             ended.pop_front();

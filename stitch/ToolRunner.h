@@ -58,17 +58,23 @@ public:
     /// Called on the calling thread as each job ends, in the order they end;
     /// false stops the rest.
     using Finished = std::function<bool(int job, const Result& result)>;
+    /// Called on the calling thread about every 0.1 s while jobs run, to
+    /// look at what they have written so far.
+    using Polled = std::function<void()>;
 
     /// Runs name once per job, up to parallel (at least 1) at once, each run
     /// in a process group of its own as run() does, and waits for them on the
     /// calling thread. All of them together may take timeoutSeconds; a run
     /// still going then ends as timed out. When *stop (optional) turns true or
     /// finished returns false, the running programs' groups are ended within
-    /// about 0.2 s and no further job starts. Returns each job's result; a job
-    /// that was not started for that reason is stopped.
+    /// about 0.2 s and no further job starts. polled (optional) is called
+    /// while any job runs, before the ended jobs are passed to finished.
+    /// Returns each job's result; a job that was not started for that reason
+    /// is stopped.
     QVector<Result> runEach(const QString& name, const QVector<Job>& jobs,
         const QString& workingFolder, int parallel, int timeoutSeconds,
-        const std::atomic<bool>* stop, const Finished& finished) const;
+        const std::atomic<bool>* stop, const Finished& finished,
+        const Polled& polled = Polled()) const;
 
 private:
     QString m_folder;

@@ -139,6 +139,12 @@ void tst_CommandLine::help()
     o = command({ QStringLiteral("stitch"), QStringLiteral("--help") });
     QCOMPARE(o.code, 0);
     QVERIFY(o.out.startsWith(QStringLiteral("Usage: panohead stitch")));
+    // The 8-bit panorama is blended by verdandi, the HDR one by enblend.
+    const QString oneLine = o.out.simplified();
+    QVERIFY2(oneLine.contains(QStringLiteral("verdandi blends the stacks into the 8-bit panorama")),
+        qPrintable(o.out));
+    QVERIFY2(oneLine.contains(QStringLiteral("enblend blends the stacks into an OpenEXR")),
+        qPrintable(o.out));
     o = command({ QStringLiteral("frob") });
     QCOMPARE(o.code, 2);
     QCOMPARE(o.err,

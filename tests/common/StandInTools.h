@@ -37,8 +37,9 @@ const QString TiffHeader
 
 /// What each stand-in does when it behaves: the project passes through, the
 /// control point finder adds one point between the linked stacks 0 and 1,
-/// the canvas gets a 100 × 50 crop, nona writes its pictures (OpenEXR ones
-/// when asked for them), the blenders and
+/// the canvas gets a 100 × 50 crop, nona writes its pictures one after the
+/// other (OpenEXR ones when asked for them), each "xx" in two parts a moment
+/// apart, the blenders and
 /// the exposure fuser a 100 × 50 TIFF header, the HDR merger one byte.
 inline QMap<QString, QString> wellBehaved()
 {
@@ -51,8 +52,9 @@ inline QMap<QString, QString> wellBehaved()
             QStringLiteral("sed 's/^p \\(.*\\)$/p \\1 S0,100,0,50/' \"$last\" > \"$out\"") },
         { QStringLiteral("nona"),
             QStringLiteral("ext=tif; case \"$*\" in *EXR_m*) ext=exr;; esac\n"
-                           "for i in $images; do printf x > \"$(printf '%s%04d.%s' \"$out\" "
-                           "\"$i\" $ext)\"; done") },
+                           "for i in $images; do f=$(printf '%s%04d.%s' \"$out\" \"$i\" $ext)\n"
+                           "  printf x > \"$f\"; sleep 0.05; printf x >> \"$f\"\n"
+                           "done") },
         { QStringLiteral("enblend"), TiffHeader },
         { QStringLiteral("verdandi"), TiffHeader },
         { QStringLiteral("enfuse"), TiffHeader },

@@ -175,6 +175,19 @@ void tst_DescriptionJson::rejects_data()
     QTest::newRow("angles with text")
         << "yaw" << QJsonValue(QJsonArray { 1.0, QStringLiteral("x") })
         << "member \"yaw\" holds something else than numbers";
+    // Angles and the focal length are floats: a number that rounds to
+    // infinity as a float is refused, naming the member.
+    QTest::newRow("yaw beyond float range")
+        << "yaw" << QJsonValue(QJsonArray { 0.0, 1e39 })
+        << "member \"yaw\" holds a number out of range";
+    QTest::newRow("pitch below float range")
+        << "pitch" << QJsonValue(QJsonArray { -1e39 })
+        << "member \"pitch\" holds a number out of range";
+    QTest::newRow("roll far beyond float range")
+        << "roll" << QJsonValue(QJsonArray { 3.5e46 })
+        << "member \"roll\" holds a number out of range";
+    QTest::newRow("focal length beyond float range")
+        << "focalLength" << QJsonValue(1e39) << "member \"focalLength\" is out of range";
     QTest::newRow("stack of numbers") << "stacks" << QJsonValue(QJsonArray { QJsonArray { 1 } })
                                       << "a stack holds something else than paths";
     QTest::newRow("link to nowhere")

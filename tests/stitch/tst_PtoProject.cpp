@@ -49,6 +49,8 @@ private slots:
     void renumbered();
     void absoluteNames();
     void writeAndRead();
+    void carriageReturns_data();
+    void carriageReturns();
     void rejects_data();
     void rejects();
     void pointError_data();
@@ -176,6 +178,39 @@ void tst_PtoProject::writeAndRead()
     QCOMPARE(back.text(), parsed().text());
     QVERIFY(!back.read(dir.filePath(QStringLiteral("none.pto")), &error));
     QVERIFY(error.startsWith(QStringLiteral("cannot read")));
+}
+
+void tst_PtoProject::carriageReturns_data()
+{
+    // Every carriage return at a line's end belongs to the line break.
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one") << "p f2 w3000 h1500 v360\r\ni w400 h300 y-20 n\"a.jpg\"\r\n";
+    QTest::newRow("two") << "p f2 w3000 h1500 v360\r\r\ni w400 h300 y-20 n\"a.jpg\"\r\r\n";
+    QTest::newRow("two on a comment") << "# hugin project file\r\r\np f2 w3000 h1500 v360\r\n"
+                                         "i w400 h300 y-20 n\"a.jpg\"\n";
+    QTest::newRow("three, no line feed at the end")
+        << "p f2 w3000 h1500 v360\r\r\r\ni w400 h300 y-20 n\"a.jpg\"\r\r\r";
+}
+
+void tst_PtoProject::carriageReturns()
+{
+    QFETCH(QString, text);
+    PtoProject p;
+    QString error;
+    QVERIFY2(p.parse(text, &error), qPrintable(error));
+    QVERIFY(!p.text().contains(QLatin1Char('\r')));
+    QCOMPARE(p.panoramaSize(), QSize(3000, 1500));
+    QCOMPARE(p.imageName(0), QStringLiteral("a.jpg"));
+    QCOMPARE(p.value(0, QStringLiteral("y")), QStringLiteral("-20"));
+    // What is written reads back the same.
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("p.pto"));
+    QVERIFY2(p.write(path, &error), qPrintable(error));
+    PtoProject back;
+    QVERIFY2(back.read(path, &error), qPrintable(error));
+    QCOMPARE(back.text(), p.text());
+    QCOMPARE(back.imageCount(), 1);
+    QCOMPARE(back.imageName(0), QStringLiteral("a.jpg"));
 }
 
 void tst_PtoProject::rejects_data()

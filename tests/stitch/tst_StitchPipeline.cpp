@@ -89,9 +89,14 @@ QMap<QString, QString> wellBehavedTools()
 class Worker
 {
 public:
-    explicit Worker(StitchPipeline& pipeline) : m_pipeline(pipeline)
+    /// observe (optional) is also called with each event, on the worker.
+    explicit Worker(StitchPipeline& pipeline,
+        const std::function<void(const StepEvent&)>& observe = {})
+        : m_pipeline(pipeline)
     {
-        pipeline.setProgress([this](const StepEvent& event) {
+        pipeline.setProgress([this, observe](const StepEvent& event) {
+            if (observe)
+                observe(event);
             m_events << event;
             m_callbackThreads << std::this_thread::get_id();
         });
@@ -143,6 +148,29 @@ const QStringList AllNames = { QStringLiteral("Finding control points"),
     QStringLiteral("Choosing canvas and crop"), QStringLiteral("Remapping"),
     QStringLiteral("Blending") };
 
+/// The pictures each nona is given: the images dealt out in turn to one
+/// nona per core, never more nonas than pictures.
+QVector<QVector<int>> nonaShares(const QVector<int>& images)
+{
+    QVector<QVector<int>> shares(qBound(1, QThread::idealThreadCount(), int(images.size())));
+    for (int i = 0; i < images.size(); ++i)
+        shares[i % shares.size()] << images[i];
+    return shares;
+}
+
+/// How many of the remapped pictures in folder the stand-in nona has
+/// written whole ("xx").
+int wholePictures(const QDir& folder, const QString& prefix)
+{
+    int whole = 0;
+    for (const QString& name : folder.entryList({ prefix + QStringLiteral("[0-9]*") })) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly) && file.readAll() == "xx")
+            ++whole;
+    }
+    return whole;
+}
+
 /// The events that start and end steps, without the counts of pictures.
 QVector<StepEvent> startsAndEnds(const QVector<StepEvent>& events)
 {
@@ -183,7 +211,8 @@ private slots:
     void cleanWrongLink();
     void remapCountsPictures_data();
     void remapCountsPictures();
-    void remapFailureNamesThePicture();
+    void remapCountsWhileNonasRun();
+    void remapFailureNamesThePictures();
     void cancelEndsEveryNona();
     void referencesOnlyWithHardLinks_data();
     void referencesOnlyWithHardLinks();
@@ -929,11 +958,25 @@ void tst_StitchPipeline::remapCountsPictures()
     StitchPipeline::Options options = makeStitch({}, shoot);
     QVERIFY(!options.project.isEmpty());
     options.mode = mode;
+    options.workFolder = QFileInfo(options.project).dir().filePath(QStringLiteral("work"));
     StitchPipeline pipeline(options);
-    Worker worker(pipeline);
+    // A picture counts once it is written whole: when a count arrives, at
+    // least that many pictures of the step are.
+    const QDir work(options.workFolder);
+    QStringList early;
+    Worker worker(pipeline, [&](const StepEvent& event) {
+        if (event.phase != StepEvent::Progressed)
+            return;
+        const int whole = wholePictures(work,
+            event.name == QStringLiteral("Remapping") ? QStringLiteral("remapped")
+                                                      : QStringLiteral("linear"));
+        if (whole < event.done)
+            early << QStringLiteral("%1: %2 counted, %3 whole").arg(event.name).arg(event.done).arg(whole);
+    });
     worker.join();
     QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
     QVERIFY(worker.callbacksOnWorker());
+    QVERIFY2(early.isEmpty(), qPrintable(early.join(QStringLiteral("; "))));
 
     // Between a counting step's start and end: 0, 1, ... of all its pictures,
     // in order, each naming the step.
@@ -967,25 +1010,86 @@ void tst_StitchPipeline::remapCountsPictures()
             QCOMPARE(event.total, 0);
         }
     }
-    // One nona per picture, each given one picture.
+    // Per step one nona per core, up to one per picture, each given an even
+    // share of the pictures; together they are given every picture once.
     QFile log(worker.result().log);
     QVERIFY(log.open(QIODevice::ReadOnly));
     const QStringList runs = QString::fromLocal8Bit(log.readAll())
                                  .split(QLatin1Char('\n'))
                                  .filter(QRegularExpression(QStringLiteral("^\\$ nona ")));
-    QCOMPARE(runs.size(), pictures * names.size());
-    for (const QString& run : runs)
-        QCOMPARE(run.count(QStringLiteral(" -i ")), 1);
+    const int nonas = qBound(1, QThread::idealThreadCount(), pictures);
+    QCOMPARE(runs.size(), nonas * names.size());
+    const QRegularExpression image(QStringLiteral(" -i (\\d+)"));
+    for (int step = 0; step < names.size(); ++step) {
+        QVector<int> given;
+        for (const QString& run : runs.mid(step * nonas, nonas)) {
+            int share = 0;
+            for (auto it = image.globalMatch(run); it.hasNext(); ++share)
+                given << it.next().captured(1).toInt();
+            QVERIFY2(share == pictures / nonas || share == pictures / nonas + 1, qPrintable(run));
+        }
+        std::sort(given.begin(), given.end());
+        QVector<int> all;
+        for (int i = 0; i < pictures; ++i)
+            all << i;
+        QCOMPARE(given, all);
+    }
 }
 
-void tst_StitchPipeline::remapFailureNamesThePicture()
+void tst_StitchPipeline::remapCountsWhileNonasRun()
 {
-    // Picture 1 of three cannot be remapped; the others can.
+    // Each nona writes its pictures, then waits to be let go: every picture
+    // but each nona's last is counted while all of them still run.
+    const QString release = m_dir.filePath(QStringLiteral("release-%1").arg(m_folders + 1));
     const QString nona = StandInTools::wellBehaved().value(QStringLiteral("nona"));
+    Shoot shoot;
+    shoot.stacked = true;
     StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"),
-        QStringLiteral("case \"$images\" in *1*) echo 'cannot read P2.jpg'; exit 4;; esac\n")
-            + nona } });
+        nona + QStringLiteral("\nwhile [ ! -e \"%1\" ]; do sleep 0.05; done").arg(release) } },
+        shoot);
     QVERIFY(!options.project.isEmpty());
+    const QVector<QVector<int>> shares = nonaShares({ 0, 1, 2, 3, 4, 5 });
+    if (shares.size() == 6)
+        QSKIP("one nona per picture: each picture counts as its nona ends");
+    std::atomic<int> counted { 0 };
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline, [&](const StepEvent& event) {
+        if (event.phase == StepEvent::Progressed)
+            counted.store(event.done);
+    });
+    QTRY_COMPARE_WITH_TIMEOUT(counted.load(), 6 - shares.size(), 10000);
+    QTest::qWait(300);
+    QCOMPARE(counted.load(), 6 - shares.size());
+    QVERIFY(!worker.done());
+    QFile marker(release);
+    QVERIFY(marker.open(QIODevice::WriteOnly));
+    marker.close();
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QCOMPARE(counted.load(), 6);
+}
+
+void tst_StitchPipeline::remapFailureNamesThePictures()
+{
+    // Picture 1 of six cannot be remapped; the others can. The nona given
+    // picture 1 fails, and the error names every picture it was given.
+    const QString nona = StandInTools::wellBehaved().value(QStringLiteral("nona"));
+    Shoot shoot;
+    shoot.stacked = true;
+    StitchPipeline::Options options = makeStitch({ { QStringLiteral("nona"),
+        QStringLiteral("case \"$images \" in *' 1 '*) echo 'cannot read P1b.jpg'; exit 4;; esac\n")
+            + nona } }, shoot);
+    QVERIFY(!options.project.isEmpty());
+    QVector<int> failing;
+    for (const QVector<int>& share : nonaShares({ 0, 1, 2, 3, 4, 5 })) {
+        if (share.contains(1))
+            failing = share;
+    }
+    QStringList numbers;
+    for (int image : failing)
+        numbers << QString::number(image);
+    const QString named = (failing.size() == 1 ? QStringLiteral("image ") : QStringLiteral("images "))
+        + numbers.join(QStringLiteral(", "));
     StitchPipeline pipeline(options);
     Worker worker(pipeline);
     worker.join();
@@ -993,10 +1097,11 @@ void tst_StitchPipeline::remapFailureNamesThePicture()
     QCOMPARE(result.outcome, Result::Failed);
     QCOMPARE(result.step, 6);
     QCOMPARE(result.tool, QStringLiteral("nona"));
-    // The reason ends with the last lines of that picture's nona.
-    QVERIFY2(result.error.startsWith(QStringLiteral("image 1: nona exit code 4: ")),
+    // The reason ends with the last lines of that nona.
+    QVERIFY2(result.error.startsWith(named + QStringLiteral(": nona exit code 4: ")),
         qPrintable(result.error));
-    QVERIFY2(result.error.endsWith(QStringLiteral(" -i 1 %1 | cannot read P2.jpg")
+    QVERIFY2(result.error.endsWith(QStringLiteral(" -i %1 %2 | cannot read P1b.jpg")
+                                       .arg(failing.last())
                                        .arg(QFileInfo(result.stitchedProject).absoluteFilePath())),
         qPrintable(result.error));
     QCOMPARE(worker.events().last().phase, StepEvent::Failed);
@@ -1020,7 +1125,7 @@ void tst_StitchPipeline::cancelEndsEveryNona()
     QVERIFY(!options.project.isEmpty());
     StitchPipeline pipeline(options);
     Worker worker(pipeline);
-    // As many run at once as there are cores, up to the six pictures.
+    // One nona per core, up to one per picture of the six.
     const int parallel = qBound(1, QThread::idealThreadCount(), 6);
     const QDir folder(states);
     QTRY_VERIFY_WITH_TIMEOUT(
