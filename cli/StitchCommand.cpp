@@ -174,8 +174,8 @@ QString StitchCommand::help()
                "The panorama is written under a temporary name beside it and takes its name\n"
                "only when complete: a failed or stopped stitch leaves an older panorama as\n"
                "it was. While it runs, the stitch holds the lock file .panohead.lock in the\n"
-               "panorama's folder. Ctrl-C or SIGTERM end the running program within a\n"
-               "second and remove its partial output.\n"
+               "panorama's folder and stitch.lock in its work folder. Ctrl-C or SIGTERM\n"
+               "end the running program within a second and remove its partial output.\n"
                "\n")
         + QLatin1String(ExitCode::Table());
 }

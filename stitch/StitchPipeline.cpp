@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QThread>
@@ -27,6 +28,9 @@
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
 
 namespace {
+
+/// The lock file a stitch holds in its work folder while it runs.
+const char WorkLockName[] = "stitch.lock";
 
 /// What one step reports: empty error on success, else why it failed.
 struct Outcome
@@ -1189,6 +1193,24 @@ StitchPipeline::Result StitchPipeline::run()
     if (!QDir().mkpath(o.workFolder))
         return finish(
             Result::Failed, QStringLiteral("cannot create the work folder %1").arg(o.workFolder));
+    // Two stitches in one work folder would overwrite each other's projects
+    // and pictures: the folder is held while the stitch runs. A lock left by
+    // a process that has ended is taken over, however old.
+    QLockFile workLock(QDir(o.workFolder).filePath(QLatin1String(WorkLockName)));
+    workLock.setStaleLockTime(0);
+    if (!workLock.tryLock(0)) {
+        qint64 pid = 0;
+        QString host;
+        QString application;
+        workLock.getLockInfo(&pid, &host, &application);
+        return finish(Result::Failed,
+            workLock.error() == QLockFile::LockFailedError
+                ? QStringLiteral("another stitch (process %1) is using the work folder %2; "
+                                 "wait until it has finished")
+                      .arg(pid)
+                      .arg(o.workFolder)
+                : QStringLiteral("cannot lock the work folder %1").arg(o.workFolder));
+    }
     s.work = QDir(o.workFolder);
     s.log = s.work.filePath(QStringLiteral("stitch.log"));
     result.log = s.log;

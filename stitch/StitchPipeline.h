@@ -56,7 +56,9 @@ public:
         QString output;
         Output mode = Output::Automatic;
         /// Where intermediate projects, pictures and logs go; empty: the
-        /// project's name with ".stitch" beside it.
+        /// project's name with ".stitch" beside it. A stitch holds the lock
+        /// file "stitch.lock" there while it runs; a second stitch in the same
+        /// folder fails before its first step.
         QString workFolder;
         /// Where Hugin's programs are; empty: looked up in PATH.
         QString tools;

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
@@ -202,6 +203,7 @@ private slots:
     void endsTheProcessGroup_data();
     void endsTheProcessGroup();
     void cancelBeforeRun();
+    void busyWorkFolder();
     void render_data();
     void render();
     void renderFailure_data();
@@ -679,6 +681,42 @@ void tst_StitchPipeline::cancelBeforeRun()
     QCOMPARE(worker.result().step, 1);
     QVERIFY(worker.events().isEmpty());
     QVERIFY(!QFileInfo::exists(marker));
+}
+
+void tst_StitchPipeline::busyWorkFolder()
+{
+    const QString marker = m_dir.filePath(QStringLiteral("cpfind-ran-busy"));
+    QMap<QString, QString> tools = wellBehavedTools();
+    tools[QStringLiteral("cpfind")]
+        = QStringLiteral("touch \"%1\"\n").arg(marker) + tools.value(QStringLiteral("cpfind"));
+    StitchPipeline::Options options = makeStitch(tools);
+    QVERIFY(!options.project.isEmpty());
+    const QString work = QFileInfo(options.project).absolutePath() + QStringLiteral("/other.stitch");
+    options.workFolder = work;
+    QVERIFY(QDir().mkpath(work));
+    // Another stitch holds the work folder.
+    {
+        QLockFile held(work + QStringLiteral("/stitch.lock"));
+        QVERIFY(held.tryLock(0));
+        StitchPipeline pipeline(options);
+        Worker worker(pipeline);
+        worker.join();
+        QCOMPARE(worker.result().outcome, Result::Failed);
+        QCOMPARE(worker.result().step, 0);
+        QCOMPARE(worker.result().error,
+            QStringLiteral("another stitch (process %1) is using the work folder %2; wait until "
+                           "it has finished")
+                .arg(QCoreApplication::applicationPid())
+                .arg(work));
+        QVERIFY(!QFileInfo::exists(marker));
+    }
+    // Once it has finished, the folder is free again, and free after the stitch.
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QVERIFY(QFileInfo::exists(marker));
+    QVERIFY(!QFileInfo::exists(work + QStringLiteral("/stitch.lock")));
 }
 
 using Output = StitchPipeline::Output;
