@@ -31,8 +31,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
-targets_all=(fuzz_papywizard fuzz_clauss fuzz_gigapan fuzz_image_definition fuzz_hugin_project
-  fuzz_pto_reader fuzz_description_json)
+source "$root/scripts/fuzz-targets.sh"
 
 mode=run
 dir=${ZPH_FUZZ_CAMPAIGN:-${XDG_CACHE_HOME:-$HOME/.cache}/zpanohead-fuzz}
@@ -64,58 +63,6 @@ build=${ZPH_FUZZ_BUILD:-$root/build/fuzz}
 coverage_build=${ZPH_FUZZ_COVERAGE_BUILD:-$root/build/fuzz-coverage}
 rss_mb=${ZPH_FUZZ_RSS_MB:-2560}
 mkdir -p "$dir/corpus" "$dir/totals" "$dir/logs" "$dir/findings"
-
-goal_of() {
-  case $1 in
-    fuzz_image_definition) echo 2000000 ;;
-    *) echo 10000000 ;;
-  esac
-}
-dict_of() {
-  case $1 in
-    fuzz_papywizard) echo "$root/fuzz/papywizard.dict" ;;
-    fuzz_clauss) echo "$root/fuzz/clauss.dict" ;;
-    fuzz_image_definition) echo "$root/fuzz/image_definition.dict" ;;
-    fuzz_pto_reader) echo "$root/fuzz/pto.dict" ;;
-    *) echo "" ;;
-  esac
-}
-max_len_of() {
-  case $1 in
-    fuzz_papywizard) echo 32768 ;;
-    fuzz_clauss) echo 16384 ;;
-    fuzz_image_definition) echo 65536 ;;
-    fuzz_description_json) echo 16384 ;;
-    *) echo 4096 ;;
-  esac
-}
-# See scripts/fuzz.sh: the description's target runs without the leak check.
-options_of() {
-  case $1 in
-    fuzz_description_json) echo "-detect_leaks=0" ;;
-    *) echo "" ;;
-  esac
-}
-# AddressSanitizer options of one target only (after the common ones): the
-# leak check at the end of the process is off where the per-input one is.
-asan_of() {
-  case $1 in
-    fuzz_description_json) echo "detect_leaks=0" ;;
-    *) echo "" ;;
-  esac
-}
-# The source files of the code each target reads with, for the coverage report.
-sources_of() {
-  case $1 in
-    fuzz_papywizard) echo "converters/MerlinToSPP.cpp converters/VRDrive2ToSPP.cpp" ;;
-    fuzz_clauss) echo "converters/ClaussToSPP.cpp" ;;
-    fuzz_gigapan) echo "converters/GigapanToSPP.cpp" ;;
-    fuzz_image_definition) echo "photos/ImageDefinition.cpp photos/JpegStructure.cpp photos/ExifFields.cpp photos/MetadataReader.cpp photos/Thumbnailer.cpp" ;;
-    fuzz_hugin_project) echo "export/HuginProjectWriter.cpp" ;;
-    fuzz_pto_reader) echo "stitch/PtoProject.cpp" ;;
-    fuzz_description_json) echo "export/DescriptionJson.cpp" ;;
-  esac
-}
 
 # The running totals: "<executions> <seconds>" in totals/<target>.
 total_of() { cat "$dir/totals/$1" 2>/dev/null || echo "0 0"; }

@@ -21,8 +21,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
-targets_all=(fuzz_papywizard fuzz_clauss fuzz_gigapan fuzz_image_definition fuzz_hugin_project
-  fuzz_pto_reader fuzz_description_json)
+source "$root/scripts/fuzz-targets.sh"
 
 ci=0
 build_only=0
@@ -48,53 +47,6 @@ fi
 build=${ZPH_FUZZ_BUILD:-$root/build/fuzz}
 rss_mb=${ZPH_FUZZ_RSS_MB:-2560}
 
-# Dictionary, longest input and fixture patterns of each target.
-dict_of() {
-  case $1 in
-    fuzz_papywizard) echo "$root/fuzz/papywizard.dict" ;;
-    fuzz_clauss) echo "$root/fuzz/clauss.dict" ;;
-    fuzz_image_definition) echo "$root/fuzz/image_definition.dict" ;;
-    fuzz_pto_reader) echo "$root/fuzz/pto.dict" ;;
-    *) echo "" ;;
-  esac
-}
-max_len_of() {
-  case $1 in
-    fuzz_papywizard) echo 32768 ;;
-    fuzz_clauss) echo 16384 ;;
-    fuzz_image_definition) echo 65536 ;;
-    fuzz_description_json) echo 16384 ;;
-    *) echo 4096 ;;
-  esac
-}
-fixtures_of() {
-  case $1 in
-    fuzz_papywizard) echo "*.xml" ;;
-    fuzz_clauss) echo "*.txt" ;;
-    fuzz_image_definition) echo "*.jpg *.jpeg *.JPG *.JPEG" ;;
-    fuzz_pto_reader) echo "*.pto" ;;
-    fuzz_description_json) echo "*.json" ;;
-    *) echo "" ;;
-  esac
-}
-# Options of one target only. Qt 5.15's QJsonObject leaks the entries of a
-# member that an object repeats, on the first look into that object; the
-# description reader holds Qt values only, so its target runs without the
-# leak check (AddressSanitizer's other checks stay on).
-options_of() {
-  case $1 in
-    fuzz_description_json) echo "-detect_leaks=0" ;;
-    *) echo "" ;;
-  esac
-}
-# AddressSanitizer options of one target only (after the common ones): the
-# leak check at the end of the process is off where the per-input one is.
-asan_of() {
-  case $1 in
-    fuzz_description_json) echo "detect_leaks=0" ;;
-    *) echo "" ;;
-  esac
-}
 
 echo "== fuzz: configuring and building in $build"
 mkdir -p "$build"
