@@ -49,6 +49,12 @@ QString lastLines(const QString& path, int count)
     return lines.mid(qMax(0, lines.size() - count)).join(QStringLiteral(" | "));
 }
 
+std::mutex& setUpMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
 /// Ends the process group led by process: SIGTERM, then SIGKILL to whatever
 /// of the group is left after the grace.
 void endGroup(QProcess& process)
@@ -94,6 +100,12 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
     const std::atomic<bool>* stop) const
 {
     Result result;
+    // Setting a program up and collecting its end go through Qt's shared
+    // caches (executable lookup, file names, text codecs), which Qt guards
+    // with mutexes of its own that ThreadSanitizer cannot see; programs run
+    // at once from several threads take these parts in turn under a mutex of
+    // ours. The waiting in between is each program's own and runs freely.
+    std::unique_lock<std::mutex> turn(setUpMutex());
     const QString path = program(name);
     {
         QFile log(logPath);
@@ -122,6 +134,7 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
     if (!process.waitForStarted(30000))
         return result;
     result.started = true;
+    turn.unlock();
     const QDeadlineTimer deadline(qint64(timeoutSeconds) * 1000);
     while (!process.waitForFinished(PollMilliseconds)) {
         if (process.state() == QProcess::NotRunning)
@@ -135,6 +148,7 @@ ToolRunner::Result ToolRunner::run(const QString& name, const QStringList& argum
         endGroup(process);
         break;
     }
+    turn.lock();
     if (!result.stopped && !result.timedOut) {
         result.crashed = process.exitStatus() == QProcess::CrashExit;
         result.exitCode = process.exitCode();
