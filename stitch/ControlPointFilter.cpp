@@ -23,12 +23,11 @@ bool ControlPointFilter::matchStacks(const PtoProject& project, const QString& p
         for (int s = 0; s < stack.size(); ++s)
             owner.insert(canonical(stack[s]), qMakePair(k, s == 0));
     }
-    const QDir folder(projectFolder);
     stackOf->clear();
     isReference->clear();
     for (int i = 0; i < project.imageCount(); ++i) {
         const QString name = project.imageName(i);
-        const QString path = canonical(QDir::isAbsolutePath(name) ? name : folder.filePath(name));
+        const QString path = canonical(PtoProject::inFolder(projectFolder, name));
         const auto found = owner.constFind(path);
         if (found == owner.constEnd()) {
             if (error)

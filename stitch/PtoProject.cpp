@@ -463,13 +463,19 @@ QString PtoProject::imageLine(const Image& image)
     return parts.join(QLatin1Char(' '));
 }
 
+QString PtoProject::inFolder(const QString& folder, const QString& name)
+{
+    if (name.startsWith(QLatin1Char('/')))
+        return name;
+    return QDir::cleanPath(QDir(folder).absolutePath() + QLatin1Char('/') + name);
+}
+
 void PtoProject::makeImageNamesAbsolute(const QString& folder)
 {
-    const QDir base(folder);
     for (Image& image : m_images) {
-        if (QDir::isAbsolutePath(image.name))
+        if (image.name.startsWith(QLatin1Char('/')))
             continue;
-        image.name = QDir::cleanPath(base.absoluteFilePath(image.name));
+        image.name = inFolder(folder, image.name);
         m_lines[image.line] = imageLine(image);
     }
 }

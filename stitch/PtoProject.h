@@ -53,6 +53,10 @@ public:
     /// resolved from folder (the folder of the file the project came from),
     /// so that the project can be written anywhere.
     void makeImageNamesAbsolute(const QString& folder);
+    /// name as a path from folder: unchanged when it starts with '/', else
+    /// joined to folder's absolute path. A leading ':' is part of the file
+    /// name (QDir would take it for one of Qt's resources).
+    static QString inFolder(const QString& folder, const QString& name);
 
     /// A project of the given images only (indices into this one, in the
     /// order given), renumbered 0, 1, ...: links to a kept image follow it,

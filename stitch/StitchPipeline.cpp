@@ -935,8 +935,7 @@ QString withSuffix(const QString& project, const QString& suffix)
 
 QString absolute(const QString& path, const QString& folder)
 {
-    return QFileInfo(QDir::isAbsolutePath(path) ? path : QDir(folder).filePath(path))
-        .absoluteFilePath();
+    return PtoProject::inFolder(folder, path);
 }
 
 /// A project that "panohead import" wrote starts with this comment line,

@@ -51,6 +51,8 @@ private slots:
     void writeAndRead();
     void carriageReturns_data();
     void carriageReturns();
+    void namesFromTheProjectFolder_data();
+    void namesFromTheProjectFolder();
     void rejects_data();
     void rejects();
     void pointError_data();
@@ -288,6 +290,37 @@ void tst_PtoProject::pointError()
     QCOMPARE(ok, error >= 0);
     if (ok)
         QVERIFY2(std::fabs(found - error) < 0.02, qPrintable(QString::number(found)));
+}
+
+void tst_PtoProject::namesFromTheProjectFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("relative") << "photos/a.jpg" << "/shoot/folder/photos/a.jpg";
+    QTest::newRow("up a folder") << "../g1/a.jpg" << "/shoot/g1/a.jpg";
+    QTest::newRow("absolute") << "/elsewhere/a.jpg" << "/elsewhere/a.jpg";
+    // Not one of Qt's resources: a file whose name starts with a colon.
+    QTest::newRow("leading colon") << ":../g1/a.jpg" << "/shoot/folder/:../g1/a.jpg";
+    QTest::newRow("colon alone") << ":a.jpg" << "/shoot/folder/:a.jpg";
+}
+
+void tst_PtoProject::namesFromTheProjectFolder()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, path);
+    QCOMPARE(PtoProject::inFolder(QStringLiteral("/shoot/folder"), name), path);
+    PtoProject project;
+    QString error;
+    QVERIFY2(project.parse(QStringLiteral("p f2 w400 h200 v360 n\"TIFF_m\"\n"
+                                          "i w400 h300 f0 v50 r0 p0 y0 n\"%1\"\n")
+                               .arg(name),
+                 &error),
+        qPrintable(error));
+    project.makeImageNamesAbsolute(QStringLiteral("/shoot/folder"));
+    QCOMPARE(project.imageName(0), path);
+    PtoProject reread;
+    QVERIFY2(reread.parse(project.text(), &error), qPrintable(error));
+    QCOMPARE(reread.imageName(0), path);
 }
 
 QTEST_MAIN(tst_PtoProject)
