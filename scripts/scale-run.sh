@@ -7,10 +7,14 @@
 # memory (/usr/bin/time -v); for both stitches the largest angle error against
 # the generator's ground truth (scripts/pto-angle-error.py).
 #
-#   scripts/scale-run.sh [--only small|large] [work folder]
+#   scripts/scale-run.sh [--only small|large] [--stock-limit S] [work folder]
 #
 #   large: 360°, 3 rows × 16 positions × 3 exposures, 3000 × 2000, 24 mm
 #   small: 360°, 3 rows × 12 positions, 1 exposure, 1500 × 1000, 35 mm
+#
+# --stock-limit S stops each step of the stock pipeline after S seconds of wall
+# time (the report marks it "STOPPED"); on the large shoot its cpfind alone
+# runs for hours on two cores.
 #
 # Work folder: default /tmp/zph-scale-run (needs a few GB for the large shoot).
 # ZPH_SCALE_BUILD names the build folder holding app/panohead (default
@@ -18,10 +22,15 @@
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 only=""
-if [[ ${1:-} == --only ]]; then
-  only=$2
+stock_limit=""
+while [[ ${1:-} == --* ]]; do
+  case $1 in
+    --only) only=$2 ;;
+    --stock-limit) stock_limit=$2 ;;
+    *) echo "unknown option $1" >&2; exit 2 ;;
+  esac
   shift 2
-fi
+done
 work=${1:-/tmp/zph-scale-run}
 build=${ZPH_SCALE_BUILD:-"$root/build/release"}
 tool_build="$root/build/sample-tool"
@@ -46,16 +55,24 @@ export QT_QPA_PLATFORM=offscreen
 } > "$report"
 
 # Runs a command under /usr/bin/time -v, its output in <work>/<label>.log, and
-# adds a line to the report (marked FAILED when the command fails; its status
-# is returned).
+# adds a line to the report (marked FAILED when the command fails, STOPPED when
+# it ran past $limit seconds; its status is returned).
+limit=""
 step() {
   local label=$1
   shift
   local log="$work/$label.log"
   local times="$work/$label.time"
   local status=0
-  /usr/bin/time -v -o "$times" "$@" > "$log" 2>&1 || status=$?
-  if ((status != 0)); then
+  if [[ -n $limit ]]; then
+    /usr/bin/time -v -o "$times" timeout --kill-after=10 "$limit" "$@" > "$log" 2>&1 || status=$?
+  else
+    /usr/bin/time -v -o "$times" "$@" > "$log" 2>&1 || status=$?
+  fi
+  if ((status == 124 || status == 137)) && [[ -n $limit ]]; then
+    echo "step $label stopped after $limit s" >&2
+    status=stopped
+  elif ((status != 0)); then
     echo "step $label failed; see $log" >&2
     tail -5 "$log" >&2
   fi
@@ -64,8 +81,10 @@ step() {
     /User time/ { user = $NF }
     /System time/ { sys = $NF }
     /Maximum resident/ { mem = $NF / 1024 }
-    END { printf "%-34s %9.1f %9.1f %10.0f%s\n", label, wall, user + sys, mem, failed != 0 ? "  FAILED" : "" }' \
+    END { printf "%-34s %9.1f %9.1f %10.0f%s\n", label, wall, user + sys, mem,
+          failed == "stopped" ? "  STOPPED at the limit" : failed != 0 ? "  FAILED" : "" }' \
     "$times" >> "$report"
+  [[ $status == stopped ]] && return 124
   return "$status"
 }
 
@@ -97,6 +116,7 @@ run() {
   # files allow: a failed blend still leaves the placed project to measure.
   (
     cd "$stock"
+    limit=$stock_limit
     step "$name stock: pto_gen" pto_gen -o 0-gen.pto "$shoot"/IMG_*.jpg &&
       step "$name stock: cpfind" cpfind --multirow -o 1-cpfind.pto 0-gen.pto &&
       step "$name stock: cpclean" cpclean -o 2-cpclean.pto 1-cpfind.pto &&
