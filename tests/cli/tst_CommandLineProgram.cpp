@@ -90,6 +90,19 @@ bool savePictures(const QString& folder, int count, const QSize& size = QSize(64
     return true;
 }
 
+/// The bytes a process has read so far (0 when it is gone).
+qint64 bytesRead(qint64 pid)
+{
+    QFile io(QStringLiteral("/proc/%1/io").arg(pid));
+    if (!io.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : io.readAll().split('\n')) {
+        if (line.startsWith("rchar: "))
+            return line.mid(7).toLongLong();
+    }
+    return 0;
+}
+
 /// A process has ended: it is gone or only a zombie waiting for its parent.
 bool ended(qint64 pid)
 {
@@ -140,6 +153,8 @@ private slots:
     void badInput();
     void interrupted_data();
     void interrupted();
+    void interruptedImport_data();
+    void interruptedImport();
     void fullDisk();
     void lockedFolder();
     void layoutPictureIsNoPhotograph();
@@ -610,6 +625,64 @@ void tst_CommandLineProgram::interrupted()
     QVERIFY2(again.code == 0, qPrintable(again.err));
     QVERIFY(snapshot(folder.path()).value(QStringLiteral("three-shots.tif"))
         != before.value(QStringLiteral("three-shots.tif")));
+}
+
+void tst_CommandLineProgram::interruptedImport_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<int>("code");
+    QTest::newRow("Ctrl-C while photographs are read") << int(SIGINT) << 130;
+    QTest::newRow("SIGTERM while photographs are read") << int(SIGTERM) << 143;
+}
+
+void tst_CommandLineProgram::interruptedImport()
+{
+    QFETCH(int, signal);
+    QFETCH(int, code);
+    // Thousands of photographs (links to one), so that reading them outlasts
+    // the signal by far.
+    const QDir many(path(QStringLiteral("many")));
+    if (!many.exists()) {
+        QVERIFY(savePictures(many.path(), 1, QSize(640, 480)));
+        const QByteArray first = QFile::encodeName(many.filePath(QStringLiteral("P1.jpg")));
+        for (int i = 2; i <= 4000; ++i) {
+            const QByteArray name
+                = QFile::encodeName(many.filePath(QStringLiteral("P%1.jpg").arg(i)));
+            QCOMPARE(::link(first.constData(), name.constData()), 0);
+        }
+    }
+    const QString folder = path(QStringLiteral("stopped-import-%1").arg(code));
+    QVERIFY(importThreeShots(folder, path(QStringLiteral("three"))));
+    const QMap<QString, QByteArray> before = snapshot(folder);
+    const QStringList foldersBefore = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+
+    QProcess process;
+    process.setProcessEnvironment(headless());
+    process.start(QStringLiteral(ZPH_PANOHEAD),
+        { QStringLiteral("import"), QStringLiteral("gigapan"), QStringLiteral("--force"),
+            QStringLiteral("--focal"), QStringLiteral("35"), QStringLiteral("--name"),
+            QStringLiteral("three-shots"), many.path(), QStringLiteral("-o"), folder });
+    QVERIFY(process.waitForStarted());
+    const qint64 pid = process.processId();
+    // A few hundred photographs read of the 4000: the reading has begun.
+    const qint64 photoBytes = QFileInfo(many.filePath(QStringLiteral("P1.jpg"))).size();
+    QTRY_VERIFY_WITH_TIMEOUT(bytesRead(pid) > 300 * photoBytes, 10000);
+    QCOMPARE(process.state(), QProcess::Running);
+
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(::kill(pid_t(pid), signal), 0);
+    QVERIFY(process.waitForFinished(5000));
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), code);
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+        QStringLiteral("panohead import: stopped\n"));
+    QVERIFY(process.readAllStandardOutput().isEmpty());
+
+    // The earlier import's files are whole and nothing was added beside them.
+    QCOMPARE(snapshot(folder), before);
+    QCOMPARE(QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot), foldersBefore);
 }
 
 void tst_CommandLineProgram::fullDisk()
