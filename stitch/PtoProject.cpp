@@ -16,62 +16,107 @@ bool isLetter(QChar c)
         || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
 }
 
-/// Splits a line into blank-separated tokens; a token beginning with a letter
-/// and a double quote (n"...") runs to the closing quote, blanks included.
+/// Reads a line's blank-separated tokens one by one, as views into the line;
+/// a token beginning with a letter and a double quote (n"...") runs to the
+/// closing quote, blanks included. The line must outlive the reader and the
+/// views it hands out.
+class TokenReader
+{
+public:
+    explicit TokenReader(const QString& line)
+        : m_line(line), m_chars(line.constData()), m_size(line.size())
+    {
+    }
+
+    /// The next token in *token; false at the end of the line, or at a token
+    /// whose quote is never closed (then ok() is false).
+    bool next(QStringRef* token)
+    {
+        while (m_pos < m_size && m_chars[m_pos].isSpace())
+            ++m_pos;
+        if (m_pos >= m_size || !m_ok)
+            return false;
+        const int start = m_pos;
+        if (m_pos + 1 < m_size && isLetter(m_chars[m_pos])
+            && m_chars[m_pos + 1] == QLatin1Char('"')) {
+            const int close = m_line.indexOf(QLatin1Char('"'), m_pos + 2);
+            if (close < 0) {
+                m_ok = false;
+                return false;
+            }
+            m_pos = close + 1;
+        } else {
+            while (m_pos < m_size && !m_chars[m_pos].isSpace())
+                ++m_pos;
+        }
+        *token = QStringRef(&m_line, start, m_pos - start);
+        return true;
+    }
+
+    /// False once a quote was found that is never closed.
+    bool ok() const { return m_ok; }
+
+    /// Skips the remaining tokens; false when one has a quote that is never closed.
+    bool skipRest()
+    {
+        QStringRef ignored;
+        while (next(&ignored)) { }
+        return m_ok;
+    }
+
+private:
+    const QString& m_line;
+    const QChar* m_chars;
+    int m_size;
+    int m_pos = 0;
+    bool m_ok = true;
+};
+
+/// The line's tokens as strings (see TokenReader); those before an unclosed
+/// quote when *ok is false.
 QStringList tokens(const QString& line, bool* ok)
 {
     QStringList result;
-    *ok = true;
-    int i = 0;
-    const int n = line.size();
-    while (i < n) {
-        while (i < n && line[i].isSpace())
-            ++i;
-        if (i >= n)
-            break;
-        const int start = i;
-        if (i + 1 < n && isLetter(line[i]) && line[i + 1] == QLatin1Char('"')) {
-            const int close = line.indexOf(QLatin1Char('"'), i + 2);
-            if (close < 0) {
-                *ok = false;
-                return result;
-            }
-            i = close + 1;
-        } else {
-            while (i < n && !line[i].isSpace())
-                ++i;
-        }
-        result << line.mid(start, i - start);
-    }
+    TokenReader reader(line);
+    QStringRef token;
+    while (reader.next(&token))
+        result << token.toString();
+    *ok = reader.ok();
     return result;
+}
+
+/// The number of letters a token begins with: its variable's name.
+int nameLength(const QStringRef& token)
+{
+    int i = 0;
+    while (i < token.size() && isLetter(token.at(i)))
+        ++i;
+    return i;
 }
 
 /// The leading letters of a token and what follows them.
 void splitToken(const QString& token, QString* name, QString* rest)
 {
-    int i = 0;
-    while (i < token.size() && isLetter(token[i]))
-        ++i;
+    const int i = nameLength(QStringRef(&token));
     *name = token.left(i);
     *rest = token.mid(i);
 }
 
 bool isLine(const QString& line, char kind)
 {
-    return line.size() >= 1 && line[0] == QLatin1Char(kind)
-        && (line.size() == 1 || line[1].isSpace());
+    return line.size() >= 1 && line.at(0) == QLatin1Char(kind)
+        && (line.size() == 1 || line.at(1).isSpace());
 }
 
 /// The n and N image numbers of a c line.
 bool parseControlPoint(const QString& line, PtoProject::ControlPoint* point)
 {
-    bool ok = false;
-    const QStringList parts = tokens(line, &ok);
-    if (!ok)
-        return false;
+    TokenReader reader(line);
+    QStringRef t;
+    reader.next(&t); // the line's kind
     point->first = point->second = -1;
     point->line = line;
-    for (const QString& t : parts.mid(1)) {
+    while (reader.next(&t)) {
         bool number = false;
         if (t.startsWith(QLatin1Char('n')) && point->first < 0)
             point->first = t.mid(1).toInt(&number);
@@ -82,7 +127,7 @@ bool parseControlPoint(const QString& line, PtoProject::ControlPoint* point)
         if (!number)
             return false;
     }
-    return point->first >= 0 && point->second >= 0;
+    return reader.ok() && point->first >= 0 && point->second >= 0;
 }
 
 } // namespace
@@ -106,42 +151,48 @@ bool PtoProject::read(const QString& path, QString* error)
 
 bool PtoProject::parseImage(const QString& line, Image* image, QString* error)
 {
-    bool ok = false;
-    const QStringList parts = tokens(line, &ok);
-    if (!ok) {
-        *error = QStringLiteral("an image name has no closing quote");
-        return false;
-    }
+    image->text = line;
     image->variables.clear();
-    image->variables.reserve(parts.size());
     image->name.clear();
     bool named = false;
-    for (const QString& token : parts.mid(1)) {
-        if (token.size() >= 2 && token[0] == QLatin1Char('n') && token[1] == QLatin1Char('"')) {
-            image->name = token.mid(2, token.size() - 3);
+    TokenReader reader(image->text);
+    QStringRef token;
+    reader.next(&token); // the line's kind
+    // An unclosed quote is reported before anything else the line holds.
+    const auto refuse = [&](const QString& reason) {
+        *error = reader.skipRest() ? reason : QStringLiteral("an image name has no closing quote");
+        return false;
+    };
+    while (reader.next(&token)) {
+        if (token.size() >= 2 && token.at(0) == QLatin1Char('n')
+            && token.at(1) == QLatin1Char('"')) {
+            image->name = token.mid(2, token.size() - 3).toString();
             named = true;
             continue;
         }
+        const int letters = nameLength(token);
+        if (letters == 0)
+            return refuse(
+                QStringLiteral("the image variable \"%1\" has no name").arg(token.toString()));
         Variable v;
-        QString rest;
-        splitToken(token, &v.name, &rest);
-        if (v.name.isEmpty()) {
-            *error = QStringLiteral("the image variable \"%1\" has no name").arg(token);
-            return false;
-        }
+        v.nameFrom = token.position();
+        v.nameLength = letters;
+        v.valueFrom = token.position() + letters;
+        v.valueLength = token.size() - letters;
+        const QStringRef rest = token.mid(letters);
         if (rest.startsWith(QLatin1Char('='))) {
             bool number = false;
-            const int target = rest.mid(1).toInt(&number);
-            if (!number || target < 0) {
-                *error = QStringLiteral("the link \"%1\" names no image").arg(token);
-                return false;
-            }
+            v.target = rest.mid(1).toInt(&number);
+            if (!number || v.target < 0)
+                return refuse(
+                    QStringLiteral("the link \"%1\" names no image").arg(token.toString()));
             v.linked = true;
-            v.value = QString::number(target);
-        } else {
-            v.value = rest;
         }
         image->variables.append(v);
+    }
+    if (!reader.ok()) {
+        *error = QStringLiteral("an image name has no closing quote");
+        return false;
     }
     if (!named) {
         *error = QStringLiteral("an image has no name");
@@ -176,16 +227,17 @@ bool PtoProject::parse(const QString& text, QString* error)
     }
     for (const Image& image : images) {
         for (const Variable& v : image.variables) {
-            if (v.linked && v.value.toInt() >= images.size()) {
+            if (v.linked && v.target >= images.size()) {
                 if (error)
                     *error = QStringLiteral("line %1: \"%2=%3\" links to an image that does "
                                             "not exist")
                                  .arg(image.line + 1)
-                                 .arg(v.name, v.value);
+                                 .arg(image.nameOf(v).toString(), QString::number(v.target));
                 return false;
             }
         }
     }
+    QVector<ControlPoint> points;
     for (int i = 0; i < lines.size(); ++i) {
         if (!isLine(lines[i], 'c'))
             continue;
@@ -197,9 +249,11 @@ bool PtoProject::parse(const QString& text, QString* error)
                     = QStringLiteral("line %1: a control point names no existing image").arg(i + 1);
             return false;
         }
+        points.append(point);
     }
     m_lines = lines;
     m_images = images;
+    m_points = points;
     return true;
 }
 
@@ -225,49 +279,54 @@ QString PtoProject::imageName(int image) const
     return image >= 0 && image < m_images.size() ? m_images[image].name : QString();
 }
 
-const PtoProject::Variable* PtoProject::variable(int image, const QString& name) const
+bool PtoProject::variable(
+    int image, const QString& name, const Image** owner, const Variable** found) const
 {
     // A chain of links is at most as long as there are images.
     for (int step = 0; step <= m_images.size(); ++step) {
         if (image < 0 || image >= m_images.size())
-            return nullptr;
-        const Variable* found = nullptr;
-        for (const Variable& v : m_images[image].variables) {
-            if (v.name == name) {
-                found = &v;
+            return false;
+        const Image& here = m_images[image];
+        const Variable* match = nullptr;
+        for (const Variable& v : here.variables) {
+            if (v.nameLength == name.size() && here.nameOf(v) == name) {
+                match = &v;
                 break;
             }
         }
-        if (!found || !found->linked)
-            return found;
-        image = found->value.toInt();
+        if (!match)
+            return false;
+        if (!match->linked) {
+            *owner = &here;
+            *found = match;
+            return true;
+        }
+        image = match->target;
     }
-    return nullptr;
+    return false;
 }
 
 QString PtoProject::value(int image, const QString& name) const
 {
-    const Variable* v = variable(image, name);
-    return v ? v->value : QString();
+    const Image* owner = nullptr;
+    const Variable* v = nullptr;
+    return variable(image, name, &owner, &v) ? owner->valueOf(*v).toString() : QString();
 }
 
 double PtoProject::number(int image, const QString& name, bool* ok) const
 {
+    const Image* owner = nullptr;
+    const Variable* v = nullptr;
     bool converted = false;
-    const double d = value(image, name).toDouble(&converted);
+    const double d
+        = variable(image, name, &owner, &v) ? owner->valueOf(*v).toDouble(&converted) : 0.0;
     *ok = converted && std::isfinite(d);
     return *ok ? d : 0.0;
 }
 
 QVector<PtoProject::ControlPoint> PtoProject::controlPoints() const
 {
-    QVector<ControlPoint> points;
-    for (const QString& line : m_lines) {
-        ControlPoint point;
-        if (isLine(line, 'c') && parseControlPoint(line, &point))
-            points.append(point);
-    }
-    return points;
+    return m_points;
 }
 
 void PtoProject::setControlPoints(const QVector<ControlPoint>& points)
@@ -289,9 +348,11 @@ QSize PtoProject::panoramaSize() const
     for (const QString& line : m_lines) {
         if (!isLine(line, 'p'))
             continue;
-        bool ok = false;
         int w = -1, h = -1;
-        for (const QString& t : tokens(line, &ok).mid(1)) {
+        TokenReader reader(line);
+        QStringRef t;
+        reader.next(&t); // the line's kind
+        while (reader.next(&t)) {
             bool number = false;
             if (t.startsWith(QLatin1Char('w'))) {
                 w = t.mid(1).toInt(&number);
@@ -313,11 +374,13 @@ QRect PtoProject::crop() const
     for (const QString& line : m_lines) {
         if (!isLine(line, 'p'))
             continue;
-        bool ok = false;
-        for (const QString& t : tokens(line, &ok).mid(1)) {
+        TokenReader reader(line);
+        QStringRef t;
+        reader.next(&t); // the line's kind
+        while (reader.next(&t)) {
             if (!t.startsWith(QLatin1Char('S')))
                 continue;
-            const QStringList parts = t.mid(1).split(QLatin1Char(','));
+            const QVector<QStringRef> parts = t.mid(1).split(QLatin1Char(','));
             if (parts.size() != 4)
                 return QRect();
             int v[4];
@@ -396,18 +459,20 @@ bool PtoProject::direction(int image, double x, double y, double out[3]) const
 double PtoProject::pointError(const ControlPoint& point, bool* ok) const
 {
     *ok = false;
-    bool parsed = false;
-    const QStringList parts = tokens(point.line, &parsed);
     double coordinates[4] = { 0, 0, 0, 0 };
     bool seen[4] = {};
-    const QString names[4]
-        = { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("X"), QStringLiteral("Y") };
-    for (const QString& t : parts.mid(1)) {
-        QString name, rest;
-        splitToken(t, &name, &rest);
+    const QChar names[4]
+        = { QLatin1Char('x'), QLatin1Char('y'), QLatin1Char('X'), QLatin1Char('Y') };
+    TokenReader reader(point.line);
+    QStringRef t;
+    reader.next(&t); // the line's kind
+    while (reader.next(&t)) {
+        // Each coordinate's name is one letter.
+        if (nameLength(t) != 1)
+            continue;
         for (int k = 0; k < 4; ++k) {
-            if (name == names[k] && !seen[k]) {
-                coordinates[k] = rest.toDouble(&seen[k]);
+            if (t.at(0) == names[k] && !seen[k]) {
+                coordinates[k] = t.mid(1).toDouble(&seen[k]);
                 break;
             }
         }
@@ -453,14 +518,31 @@ PtoProject::ControlPoint PtoProject::renumbered(
     return result;
 }
 
-QString PtoProject::imageLine(const Image& image)
+QString PtoProject::imageLine(int index, const QVector<int>* mapping) const
 {
-    QStringList parts;
-    parts << QStringLiteral("i");
-    for (const Variable& v : image.variables)
-        parts << v.name + (v.linked ? QStringLiteral("=") : QString()) + v.value;
-    parts << QStringLiteral("n\"%1\"").arg(image.name);
-    return parts.join(QLatin1Char(' '));
+    const Image& image = m_images[index];
+    QString line;
+    line.reserve(image.text.size() + image.name.size() + 8);
+    line += QLatin1Char('i');
+    for (const Variable& v : image.variables) {
+        line += QLatin1Char(' ');
+        if (!v.linked) {
+            line += QStringRef(&image.text, v.nameFrom, v.nameLength + v.valueLength);
+            continue;
+        }
+        line += image.nameOf(v);
+        const int target = mapping ? mapping->at(v.target) : v.target;
+        if (target >= 0) {
+            line += QLatin1Char('=');
+            line += QString::number(target);
+        } else {
+            line += value(index, image.nameOf(v).toString());
+        }
+    }
+    line += QLatin1String(" n\"");
+    line += image.name;
+    line += QLatin1Char('"');
+    return line;
 }
 
 QString PtoProject::inFolder(const QString& folder, const QString& name)
@@ -472,11 +554,12 @@ QString PtoProject::inFolder(const QString& folder, const QString& name)
 
 void PtoProject::makeImageNamesAbsolute(const QString& folder)
 {
-    for (Image& image : m_images) {
+    for (int i = 0; i < m_images.size(); ++i) {
+        Image& image = m_images[i];
         if (image.name.startsWith(QLatin1Char('/')))
             continue;
         image.name = inFolder(folder, image.name);
-        m_lines[image.line] = imageLine(image);
+        m_lines[image.line] = imageLine(i);
     }
 }
 
@@ -513,19 +596,7 @@ PtoProject PtoProject::subset(const QVector<int>& images) const
                 const int owner = m_images[old].line;
                 if (owner > 0 && m_lines[owner - 1].startsWith(QLatin1String("#-hugin")))
                     lines << m_lines[owner - 1];
-                Image image = m_images[old];
-                for (Variable& v : image.variables) {
-                    if (!v.linked)
-                        continue;
-                    const int target = mapping[v.value.toInt()];
-                    if (target >= 0) {
-                        v.value = QString::number(target);
-                    } else {
-                        v.value = value(old, v.name);
-                        v.linked = false;
-                    }
-                }
-                lines << imageLine(image);
+                lines << imageLine(old, &mapping);
             }
             continue;
         }

@@ -76,28 +76,51 @@ public:
     static ControlPoint renumbered(const ControlPoint& point, const QVector<int>& mapping);
 
 private:
+    /// One variable of an i line, as places in the image's text: its name
+    /// and either its value or the index of the image it links to ("=<image>").
     struct Variable
     {
-        QString name;
-        /// The value text, or the linked image's index after "=".
-        QString value;
+        int nameFrom = 0;
+        int nameLength = 0;
+        int valueFrom = 0;
+        int valueLength = 0;
         bool linked = false;
+        int target = -1;
     };
     struct Image
     {
         /// Index of the i line in m_lines.
         int line = -1;
+        /// The i line as read, which the variables point into.
+        QString text;
         QVector<Variable> variables;
         QString name;
+
+        QStringRef nameOf(const Variable& v) const
+        {
+            return QStringRef(&text, v.nameFrom, v.nameLength);
+        }
+        QStringRef valueOf(const Variable& v) const
+        {
+            return QStringRef(&text, v.valueFrom, v.valueLength);
+        }
     };
 
     static bool parseImage(const QString& line, Image* image, QString* error);
-    static QString imageLine(const Image& image);
-    const Variable* variable(int image, const QString& name) const;
+    /// The i line of the image: its variables in their order, then its name.
+    /// With mapping, a link to image k links to mapping[k], or, when that is
+    /// -1, becomes the value it leads to.
+    QString imageLine(int image, const QVector<int>* mapping = nullptr) const;
+    /// The image and variable found by following links from image; false
+    /// when the variable is absent or the links go round in a circle.
+    bool variable(
+        int image, const QString& name, const Image** owner, const Variable** found) const;
     /// The unit vector of image pixel (x, y) in the panorama's frame: z
     /// ahead at yaw 0 and pitch 0, x to the right, y up.
     bool direction(int image, double x, double y, double out[3]) const;
 
     QStringList m_lines;
     QVector<Image> m_images;
+    /// The c lines' points, in the order of the lines: only parse() changes them.
+    QVector<ControlPoint> m_points;
 };
