@@ -24,6 +24,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 
 // cancel() stores into the flag from signal handlers too.
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
@@ -319,8 +320,12 @@ Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
 {
     *fallBack = false;
     const QVector<QPair<int, int>> pairs = linkedReferences(s);
+    // The process's processor time, all threads: nothing else runs in the
+    // process while the step does.
+    const std::clock_t started = std::clock();
     const CorrelationMatcher::Result result = CorrelationMatcher::match(
         s.currentProject, QFileInfo(s.current).absolutePath(), pairs, 0, s.stop);
+    const double seconds = double(std::clock() - started) / CLOCKS_PER_SEC;
     if (result.outcome == CorrelationMatcher::Result::Stopped) {
         Outcome outcome;
         outcome.stopped = true;
@@ -348,7 +353,9 @@ Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
         *fallBack = true;
         return done();
     }
-    appendToLog(s, log);
+    appendToLog(s, log + QStringLiteral("%1 points, %2 s of processor time\n")
+                             .arg(result.points.size())
+                             .arg(seconds, 0, 'f', 2));
     PtoProject project = s.currentProject;
     project.setControlPoints(result.points);
     const QString output = s.workFile(QStringLiteral("01-cpfind.pto"));
