@@ -169,7 +169,9 @@ bool makeCamera(const PtoProject& project, int image, Camera* camera, QString* r
         bool ok = false;
         values[i] = project.number(image, QLatin1String(needed[i]), &ok);
         if (!ok)
-            return fail(QStringLiteral("image %1 has no value %2").arg(image).arg(QLatin1String(needed[i])));
+            return fail(QStringLiteral("image %1 has no value %2")
+                            .arg(image)
+                            .arg(QLatin1String(needed[i])));
     }
     const double width = values[0], height = values[1], projection = values[2], fov = values[3];
     if (width < 1 || height < 1 || fov <= 0)
@@ -209,12 +211,12 @@ bool makeCamera(const PtoProject& project, int image, Camera* camera, QString* r
     // (at 90° the picture's top looks to the right), pitch raises the axis,
     // yaw turns it to the right: m = yaw × pitch × roll.
     const double w = values[4] * Degree, p = values[5] * Degree, r = values[6] * Degree;
-    const double roll[3][3] = { { std::cos(r), std::sin(r), 0 }, { -std::sin(r), std::cos(r), 0 },
-        { 0, 0, 1 } };
-    const double pitch[3][3] = { { 1, 0, 0 }, { 0, std::cos(p), std::sin(p) },
-        { 0, -std::sin(p), std::cos(p) } };
-    const double yaw[3][3] = { { std::cos(w), 0, std::sin(w) }, { 0, 1, 0 },
-        { -std::sin(w), 0, std::cos(w) } };
+    const double roll[3][3]
+        = { { std::cos(r), std::sin(r), 0 }, { -std::sin(r), std::cos(r), 0 }, { 0, 0, 1 } };
+    const double pitch[3][3]
+        = { { 1, 0, 0 }, { 0, std::cos(p), std::sin(p) }, { 0, -std::sin(p), std::cos(p) } };
+    const double yaw[3][3]
+        = { { std::cos(w), 0, std::sin(w) }, { 0, 1, 0 }, { -std::sin(w), 0, std::cos(w) } };
     double pr[3][3];
     for (int i = 0; i < 3; ++i) {
         for (int j = 0; j < 3; ++j) {
@@ -248,8 +250,8 @@ struct Level
     {
         if (!(x >= 0 && y >= 0 && x <= width - 1 && y <= height - 1))
             return false;
-        const int x0 = std::min(int(x), width - 2 < 0 ? 0 : width - 2);
-        const int y0 = std::min(int(y), height - 2 < 0 ? 0 : height - 2);
+        const int x0 = std::min(int(x), std::max(0, width - 2));
+        const int y0 = std::min(int(y), std::max(0, height - 2));
         const int x1 = std::min(x0 + 1, width - 1);
         const int y1 = std::min(y0 + 1, height - 1);
         const double fx = x - x0, fy = y - y0;
@@ -376,14 +378,15 @@ bool loadPicture(const QString& path, const Camera& camera, Picture* picture, QS
     return true;
 }
 
-/// A zero-mean patch of unit norm; false when it varies too little or
-/// leaves its picture.
+/// A square of grey levels, row by row, centred on a point.
 struct Patch
 {
     static const int Side = 2 * TemplateRadius + 1;
     float values[Side * Side];
 };
 
+/// Makes values zero-mean and of unit norm; false when they vary too little
+/// to be matched.
 bool normalise(float* values, int count)
 {
     double sum = 0, squares = 0;
@@ -411,7 +414,8 @@ double correlation(const Patch& patch, const Level& level, int x, int y)
     double sum = 0, squares = 0, dot = 0;
     int i = 0;
     for (int dy = -TemplateRadius; dy <= TemplateRadius; ++dy) {
-        const float* row = level.pixels.data() + size_t(y + dy) * size_t(level.width) + (x - TemplateRadius);
+        const float* row
+            = level.pixels.data() + size_t(y + dy) * size_t(level.width) + (x - TemplateRadius);
         for (int dx = 0; dx < side; ++dx, ++i) {
             const double value = row[dx];
             sum += value;
@@ -433,8 +437,8 @@ struct Match
 
 /// The point (ax, ay) of picture a looked for in b around the full-picture
 /// position (ex, ey); true with the match when it is sure.
-bool matchPoint(const Camera& ca, const Picture& pa, const Camera& cb, const Picture& pb,
-    double ax, double ay, double ex, double ey, Match* match)
+bool matchPoint(const Camera& ca, const Picture& pa, const Camera& cb, const Picture& pb, double ax,
+    double ay, double ex, double ey, Match* match)
 {
     const int coarse = std::min(pa.coarse, pb.coarse);
     // Full resolution is searched twice: the second patch is sampled at the
@@ -505,7 +509,8 @@ bool matchPoint(const Camera& ca, const Picture& pa, const Camera& cb, const Pic
             for (int y = y0; y <= y1; ++y) {
                 for (int x = x0; x <= x1; ++x) {
                     if (std::max(std::abs(x - bx), std::abs(y - by)) > PeakExclusion)
-                        second = std::max(second, scores[size_t(y - y0) * size_t(sw) + size_t(x - x0)]);
+                        second = std::max(
+                            second, scores[size_t(y - y0) * size_t(sw) + size_t(x - x0)]);
                 }
             }
             if (best - second < PeakMargin)
@@ -515,11 +520,14 @@ bool matchPoint(const Camera& ca, const Picture& pa, const Camera& cb, const Pic
         if (k == 0) {
             if (best < MinimumCorrelation)
                 return false;
-            const auto at = [&](int x, int y) { return scores[size_t(y - y0) * size_t(sw) + size_t(x - x0)]; };
+            const auto at = [&](int x, int y) {
+                return scores[size_t(y - y0) * size_t(sw) + size_t(x - x0)];
+            };
             const auto vertex = [](double left, double centre, double right) {
                 const double curvature = left - 2 * centre + right;
-                return curvature < 0 ? std::max(-0.5, std::min(0.5, (left - right) / (2 * curvature)))
-                                     : 0.0;
+                return curvature < 0
+                    ? std::max(-0.5, std::min(0.5, (left - right) / (2 * curvature)))
+                    : 0.0;
             };
             fx = vertex(at(bx - 1, by), best, at(bx + 1, by));
             fy = vertex(at(bx, by - 1), best, at(bx, by + 1));
@@ -664,7 +672,8 @@ void matchPair(const Camera& ca, const Picture& pa, const Camera& cb, const Pict
     for (int y = 0; y < h; ++y) {
         for (int x = 0; x < w; ++x) {
             double direction[3], bx, by;
-            const bool visible = ca.toDirection(fromLevel(x, coarse), fromLevel(y, coarse), direction)
+            const bool visible
+                = ca.toDirection(fromLevel(x, coarse), fromLevel(y, coarse), direction)
                 && cb.toPixel(direction, &bx, &by);
             ++total;
             if (!visible || !cb.inside(bx, by, 0))
@@ -783,8 +792,9 @@ CorrelationMatcher::Result CorrelationMatcher::match(const PtoProject& project,
             slot.picture.reset();
     };
 
-    QVector<QVector<Match>> found(pairs.size());
-    QVector<double> overlaps(pairs.size(), 0.0);
+    // Each worker writes the slots of its own pairs only.
+    std::vector<QVector<Match>> found(size_t(pairs.size()));
+    std::vector<double> overlaps(size_t(pairs.size()), 0.0);
     std::atomic<int> next { 0 };
     std::atomic<bool> failed { false };
     const auto work = [&]() {
@@ -799,14 +809,14 @@ CorrelationMatcher::Result CorrelationMatcher::match(const PtoProject& project,
                 failed.store(true);
                 return;
             }
-            matchPair(cameras[size_t(a)], *pa, cameras[size_t(b)], *pb, stop, &found[index],
-                &overlaps[index]);
+            matchPair(cameras[size_t(a)], *pa, cameras[size_t(b)], *pb, stop, &found[size_t(index)],
+                &overlaps[size_t(index)]);
             release(a);
             release(b);
         }
     };
-    const int count = std::max(1,
-        std::min(threads > 0 ? threads : QThread::idealThreadCount(), int(pairs.size())));
+    const int count = std::max(
+        1, std::min(threads > 0 ? threads : QThread::idealThreadCount(), int(pairs.size())));
     std::vector<std::thread> workers;
     for (int t = 1; t < count; ++t)
         workers.emplace_back(work);
@@ -831,10 +841,10 @@ CorrelationMatcher::Result CorrelationMatcher::match(const PtoProject& project,
         PairResult pair;
         pair.first = pairs[p].first;
         pair.second = pairs[p].second;
-        pair.overlap = overlaps[p];
-        pair.points = found[p].size();
+        pair.overlap = overlaps[size_t(p)];
+        pair.points = found[size_t(p)].size();
         result.pairs << pair;
-        for (const Match& m : found[p]) {
+        for (const Match& m : found[size_t(p)]) {
             PtoProject::ControlPoint point;
             point.first = pair.first;
             point.second = pair.second;

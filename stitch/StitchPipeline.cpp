@@ -333,7 +333,8 @@ Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
     }
     QString log = QStringLiteral("$ correlation of %1 pairs of pictures\n").arg(pairs.size());
     if (result.outcome == CorrelationMatcher::Result::Declined) {
-        appendToLog(s, log + QStringLiteral("declined: %1; cpfind looks instead\n").arg(result.reason));
+        appendToLog(
+            s, log + QStringLiteral("declined: %1; cpfind looks instead\n").arg(result.reason));
         *fallBack = true;
         return done();
     }
@@ -353,9 +354,11 @@ Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
         *fallBack = true;
         return done();
     }
-    appendToLog(s, log + QStringLiteral("%1 points, %2 s of processor time\n")
-                             .arg(result.points.size())
-                             .arg(seconds, 0, 'f', 2));
+    appendToLog(s,
+        log
+            + QStringLiteral("%1 points, %2 s of processor time\n")
+                  .arg(result.points.size())
+                  .arg(seconds, 0, 'f', 2));
     PtoProject project = s.currentProject;
     project.setControlPoints(result.points);
     const QString output = s.workFile(QStringLiteral("01-cpfind.pto"));

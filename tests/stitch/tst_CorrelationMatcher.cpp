@@ -38,17 +38,17 @@ QVector<Position> recordedReferences()
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QString text = QString::fromUtf8(file.readAll());
-    static const QRegularExpression pict(QStringLiteral(
-        "<pict id=\"(\\d+)\" bracket=\"1\">.*?<position yaw=\"([-0-9.]+)\" "
-        "pitch=\"([-0-9.]+)\" roll=\"([-0-9.]+)\""),
+    static const QRegularExpression pict(
+        QStringLiteral("<pict id=\"(\\d+)\" bracket=\"1\">.*?<position yaw=\"([-0-9.]+)\" "
+                       "pitch=\"([-0-9.]+)\" roll=\"([-0-9.]+)\""),
         QRegularExpression::DotMatchesEverythingOption);
     QVector<Position> positions;
     QRegularExpressionMatchIterator it = pict.globalMatch(text);
     while (it.hasNext()) {
         const QRegularExpressionMatch m = it.next();
-        positions.append({ QStringLiteral("IMG_%1.jpg").arg(m.captured(1).toInt(), 4, 10,
-                               QLatin1Char('0')),
-            m.captured(2).toDouble(), m.captured(3).toDouble(), m.captured(4).toDouble() });
+        positions.append(
+            { QStringLiteral("IMG_%1.jpg").arg(m.captured(1).toInt(), 4, 10, QLatin1Char('0')),
+                m.captured(2).toDouble(), m.captured(3).toDouble(), m.captured(4).toDouble() });
     }
     return positions;
 }
@@ -65,7 +65,8 @@ QHash<QString, Position> truth()
         if (fields.size() != 5 || !fields[0].startsWith("IMG_"))
             continue;
         const QString name = QString::fromLatin1(fields[0]);
-        angles.insert(name, { name, fields[2].toDouble(), fields[3].toDouble(), fields[4].toDouble() });
+        angles.insert(
+            name, { name, fields[2].toDouble(), fields[3].toDouble(), fields[4].toDouble() });
     }
     return angles;
 }
@@ -231,7 +232,8 @@ void tst_CorrelationMatcher::everyLinkedPairGetsPoints()
     }
     int counted = 0;
     for (const PtoProject::ControlPoint& point : m_result.points) {
-        QVERIFY(point.line.startsWith(QStringLiteral("c n%1 N%2 ").arg(point.first).arg(point.second)));
+        QVERIFY(
+            point.line.startsWith(QStringLiteral("c n%1 N%2 ").arg(point.first).arg(point.second)));
         QVERIFY(point.line.endsWith(QStringLiteral(" t0")));
         ++counted;
     }
@@ -309,8 +311,8 @@ void tst_CorrelationMatcher::unsupportedProjectionDeclines()
     QString reason;
     QVERIFY(!CorrelationMatcher::supports(project, 0, &reason));
     QVERIFY(!reason.isEmpty());
-    const CorrelationMatcher::Result result = CorrelationMatcher::match(
-        project, QStringLiteral(ZPH_SAMPLE_SHOOT), { qMakePair(0, 1) });
+    const CorrelationMatcher::Result result
+        = CorrelationMatcher::match(project, QStringLiteral(ZPH_SAMPLE_SHOOT), { qMakePair(0, 1) });
     QCOMPARE(result.outcome, CorrelationMatcher::Result::Declined);
     QCOMPARE(result.reason, reason);
     QVERIFY(result.points.isEmpty());

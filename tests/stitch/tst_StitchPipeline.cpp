@@ -284,11 +284,13 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
         panorama.m_stacks << stack;
         if (shoot.samplePictures) {
             const QString photo = stack.first();
+            // P1 and P2 are neighbours of the top row, P3 is far from both.
+            const QStringList names { QStringLiteral("P1"), QStringLiteral("P2"),
+                QStringLiteral("P3") };
+            const QStringList numbers { QStringLiteral("07"), QStringLiteral("10"),
+                QStringLiteral("28") };
             const QString source = QStringLiteral(ZPH_SAMPLE_SHOOT "/IMG_00%1.jpg")
-                                       .arg(QLatin1String(name) == QLatin1String("P1") ? "07"
-                                               : QLatin1String(name) == QLatin1String("P2")
-                                               ? "10"
-                                               : "28");
+                                       .arg(numbers.value(names.indexOf(QLatin1String(name))));
             if (shoot.flatSecond && QLatin1String(name) == QLatin1String("P2")) {
                 QImage grey(400, 300, QImage::Format_RGB32);
                 grey.fill(qRgb(128, 128, 128));
@@ -1352,7 +1354,6 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
     QCOMPARE(lines[1], variables);
 }
 
-
 void tst_StitchPipeline::correlationOrCpfind_data()
 {
     QTest::addColumn<bool>("recorded");
@@ -1360,10 +1361,12 @@ void tst_StitchPipeline::correlationOrCpfind_data()
     QTest::addColumn<bool>("option");
     QTest::addColumn<bool>("cpfindRuns");
     QTest::addColumn<QString>("note");
-    const QString correlated = QStringLiteral("^\\d+ points by correlation at the recorded positions$");
+    const QString correlated
+        = QStringLiteral("^\\d+ points by correlation at the recorded positions$");
     QTest::newRow("recorded positions: correlation")
         << true << false << false << false << correlated;
-    QTest::newRow("cpfind asked for") << true << false << true << true << QStringLiteral("^1 points$");
+    QTest::newRow("cpfind asked for")
+        << true << false << true << true << QStringLiteral("^1 points$");
     QTest::newRow("without recorded positions")
         << false << false << false << true << QStringLiteral("^1 points$");
     QTest::newRow("a linked pair without points falls back")
@@ -1383,11 +1386,11 @@ void tst_StitchPipeline::correlationOrCpfind()
     shoot.flatSecond = flatSecond;
     shoot.useRecordedLocation = recorded;
     const QString marker = m_dir.filePath(QStringLiteral("cpfind-ran-%1").arg(m_folders + 1));
-    StitchPipeline::Options options = makeStitch(
-        { { QStringLiteral("cpfind"),
-            QStringLiteral("touch \"%1\"\n").arg(marker)
-                + wellBehavedTools().value(QStringLiteral("cpfind")) } },
-        shoot);
+    StitchPipeline::Options options
+        = makeStitch({ { QStringLiteral("cpfind"),
+                         QStringLiteral("touch \"%1\"\n").arg(marker)
+                             + wellBehavedTools().value(QStringLiteral("cpfind")) } },
+            shoot);
     QVERIFY(!options.project.isEmpty());
     options.cpfind = option;
     StitchPipeline pipeline(options);
