@@ -1,7 +1,8 @@
 // Control points found by correlation on the bundled sample's reference
 // pictures, placed at the angles the head recorded (up to 1.5° off): every
 // point, seen through the angles the pictures were rendered at, joins the
-// same direction of the scene.
+// same direction of the scene; also for portrait and fisheye pictures drawn
+// from them.
 #include "CorrelationMatcher.h"
 #include "PtoProject.h"
 
@@ -12,6 +13,7 @@
 #include <QTransform>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -95,25 +97,99 @@ QString projectText(const QVector<Position>& positions, const Lens& lens)
     return text;
 }
 
-/// The direction of pixel (x, y) of a rectilinear picture, as the sample
-/// generator renders it: the centre of pixel (0, 0) at (0, 0), the camera
-/// looking along x of a frame with y to the left and z up, turned by roll
-/// about its view, pitched up, then yawed to the right.
+/// v (camera frame: x ahead, y to the left, z up) in the scene's frame:
+/// turned by roll about the view, pitched up, then yawed to the right (by
+/// -angle with inverse).
+void turn(const Position& at, const double v[3], double out[3], bool inverse = false)
+{
+    const double sign = inverse ? -1.0 : 1.0;
+    const double r = sign * at.roll * M_PI / 180, p = -sign * at.pitch * M_PI / 180,
+                 w = -sign * at.yaw * M_PI / 180;
+    const auto aboutX = [r](const double* in, double* o) {
+        const double t[3] = { in[0], in[1] * std::cos(r) - in[2] * std::sin(r),
+            in[1] * std::sin(r) + in[2] * std::cos(r) };
+        std::copy(t, t + 3, o);
+    };
+    const auto aboutY = [p](const double* in, double* o) {
+        const double t[3] = { in[0] * std::cos(p) + in[2] * std::sin(p), in[1],
+            -in[0] * std::sin(p) + in[2] * std::cos(p) };
+        std::copy(t, t + 3, o);
+    };
+    const auto aboutZ = [w](const double* in, double* o) {
+        const double t[3] = { in[0] * std::cos(w) - in[1] * std::sin(w),
+            in[0] * std::sin(w) + in[1] * std::cos(w), in[2] };
+        std::copy(t, t + 3, o);
+    };
+    std::copy(v, v + 3, out);
+    if (inverse) {
+        aboutZ(out, out);
+        aboutY(out, out);
+        aboutX(out, out);
+    } else {
+        aboutX(out, out);
+        aboutY(out, out);
+        aboutZ(out, out);
+    }
+}
+
+/// The direction of pixel (x, y) as the sample generator renders it: the
+/// centre of pixel (0, 0) at (0, 0), rows from the top. Rectilinear, or for
+/// projection 2 and 3 equidistant (the angle from the axis grows with the
+/// radius).
 void direction(const Position& at, const Lens& lens, double x, double y, double out[3])
 {
-    const double focal = lens.width / 2.0 / std::tan(lens.fov * M_PI / 360.0);
-    double v[3] = { focal, -(x + 0.5 - lens.width / 2.0), -(y + 0.5 - lens.height / 2.0) };
-    const double r = at.roll * M_PI / 180, p = -at.pitch * M_PI / 180, w = -at.yaw * M_PI / 180;
-    const double rolled[3] = { v[0], v[1] * std::cos(r) - v[2] * std::sin(r),
-        v[1] * std::sin(r) + v[2] * std::cos(r) };
-    const double pitched[3] = { rolled[0] * std::cos(p) + rolled[2] * std::sin(p), rolled[1],
-        -rolled[0] * std::sin(p) + rolled[2] * std::cos(p) };
-    out[0] = pitched[0] * std::cos(w) - pitched[1] * std::sin(w);
-    out[1] = pitched[0] * std::sin(w) + pitched[1] * std::cos(w);
-    out[2] = pitched[2];
+    const double u = x + 0.5 - lens.width / 2.0, w = y + 0.5 - lens.height / 2.0;
+    double v[3];
+    if (lens.projection == 0) {
+        const double focal = lens.width / 2.0 / std::tan(lens.fov * M_PI / 360.0);
+        v[0] = focal;
+        v[1] = -u;
+        v[2] = -w;
+    } else {
+        const double focal = lens.width / 2.0 / (lens.fov * M_PI / 360.0);
+        const double radius = std::hypot(u, w), theta = radius / focal;
+        const double s = radius > 0 ? std::sin(theta) / radius : 0.0;
+        v[0] = std::cos(theta);
+        v[1] = -u * s;
+        v[2] = -w * s;
+    }
+    turn(at, v, out);
     const double length = std::sqrt(out[0] * out[0] + out[1] * out[1] + out[2] * out[2]);
     for (int i = 0; i < 3; ++i)
         out[i] /= length;
+}
+
+/// The sample photograph at the position as a picture of lens (grey levels;
+/// what the photograph does not see is black).
+QImage reprojected(const QImage& photograph, const Position& at, const Lens& lens)
+{
+    const Lens sample;
+    const double focal = sample.width / 2.0 / std::tan(sample.fov * M_PI / 360.0);
+    const QImage grey = photograph.convertToFormat(QImage::Format_Grayscale8);
+    QImage out(lens.width, lens.height, QImage::Format_Grayscale8);
+    out.fill(0);
+    for (int y = 0; y < lens.height; ++y) {
+        uchar* line = out.scanLine(y);
+        for (int x = 0; x < lens.width; ++x) {
+            double d[3], v[3];
+            direction(at, lens, x, y, d);
+            turn(at, d, v, true);
+            if (v[0] <= 0)
+                continue;
+            const double sx = -focal * v[1] / v[0] + sample.width / 2.0 - 0.5;
+            const double sy = -focal * v[2] / v[0] + sample.height / 2.0 - 0.5;
+            const int x0 = int(std::floor(sx)), y0 = int(std::floor(sy));
+            if (x0 < 0 || y0 < 0 || x0 + 1 >= grey.width() || y0 + 1 >= grey.height())
+                continue;
+            const double fx = sx - x0, fy = sy - y0;
+            const uchar* row0 = grey.constScanLine(y0);
+            const uchar* row1 = grey.constScanLine(y0 + 1);
+            const double top = row0[x0] + (row0[x0 + 1] - row0[x0]) * fx;
+            const double bottom = row1[x0] + (row1[x0 + 1] - row1[x0]) * fx;
+            line[x] = uchar(std::lround(top + (bottom - top) * fy));
+        }
+    }
+    return out;
 }
 
 double angleBetween(const double a[3], const double b[3])
@@ -177,6 +253,8 @@ private slots:
     void everyLinkedPairGetsPoints();
     void pairThatDoesNotOverlapGetsNone();
     void portraitPictures();
+    void equidistantFisheye_data();
+    void equidistantFisheye();
     void unsupportedProjectionDeclines_data();
     void unsupportedProjectionDeclines();
     void unreadablePictureDeclines();
@@ -285,6 +363,44 @@ void tst_CorrelationMatcher::portraitPictures()
     QVERIFY2(result.points.size() >= 5, qPrintable(QString::number(result.points.size())));
     QString worst;
     const double largest = largestError(result.points, truePositions, lens, &worst);
+    QVERIFY2(largest < 0.05, qPrintable(QStringLiteral("%1° at %2").arg(largest).arg(worst)));
+}
+
+void tst_CorrelationMatcher::equidistantFisheye_data()
+{
+    QTest::addColumn<int>("projection");
+    QTest::newRow("full frame") << 2;
+    QTest::newRow("circular") << 3;
+}
+
+void tst_CorrelationMatcher::equidistantFisheye()
+{
+    // Two neighbours of the top row drawn again as equidistant fisheye
+    // pictures of the same width and field of view, from their true angles.
+    QFETCH(int, projection);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    Lens fisheye;
+    fisheye.projection = projection;
+    QVector<Position> recorded, truePositions;
+    for (int index : { 1, 2 }) {
+        const Position& p = m_recorded[index];
+        const QImage photograph(sample(p.name));
+        QVERIFY(!photograph.isNull());
+        const QString name = p.name + QStringLiteral(".png");
+        QVERIFY(reprojected(photograph, m_true[index], fisheye).save(dir.filePath(name)));
+        recorded.append({ name, p.yaw, p.pitch, p.roll });
+        truePositions << m_true[index];
+    }
+    PtoProject project;
+    QString error;
+    QVERIFY2(project.parse(projectText(recorded, fisheye), &error), qPrintable(error));
+    const CorrelationMatcher::Result result
+        = CorrelationMatcher::match(project, dir.path(), { qMakePair(0, 1) });
+    QVERIFY2(result.outcome == CorrelationMatcher::Result::Matched, qPrintable(result.reason));
+    QVERIFY2(result.points.size() >= 5, qPrintable(QString::number(result.points.size())));
+    QString worst;
+    const double largest = largestError(result.points, truePositions, fisheye, &worst);
     QVERIFY2(largest < 0.05, qPrintable(QStringLiteral("%1° at %2").arg(largest).arg(worst)));
 }
 
