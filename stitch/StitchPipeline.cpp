@@ -313,9 +313,10 @@ void appendToLog(const Stitch& s, const QString& text)
 }
 
 /// The references' points by correlation at the recorded positions, into
-/// work/01-cpfind.pto. *fallBack tells why cpfind is to look instead: empty
-/// when correlation declined (a projection it does not support, a picture
-/// it cannot read), else what it left without points.
+/// work/01-cpfind.pto. True in *fallBack when cpfind is to look instead;
+/// *gaps then says what correlation left without points, and is empty when
+/// correlation declined (a projection it does not support, a picture it
+/// cannot read). The log says which and why.
 Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
 {
     *fallBack = false;
