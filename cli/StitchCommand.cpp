@@ -135,11 +135,13 @@ QString StitchCommand::help()
     return QString::fromUtf8(
                "Usage: panohead stitch [options] <project.pto>\n"
                "\n"
-               "Stitches a project written by \"panohead import\" with Hugin's tools: cpfind\n"
-               "finds control points (guided by the recorded positions), the points between\n"
-               "stacks that no authorised link joins are removed, cpclean removes wrong\n"
-               "points, autooptimiser places the pictures, pano_modify chooses the canvas and\n"
-               "crop, nona remaps the pictures, enfuse fuses the exposures of every stack and\n"
+               "Stitches a project written by \"panohead import\" with Hugin's tools: control\n"
+               "points are found (with \"Use recorded location\" by correlating the linked\n"
+               "pictures at their recorded positions; else, or where correlation leaves a\n"
+               "linked pair without points, by cpfind), the points between stacks that no\n"
+               "authorised link joins are removed, cpclean removes wrong points,\n"
+               "autooptimiser places the pictures, pano_modify chooses the canvas and crop,\n"
+               "nona remaps the pictures, enfuse fuses the exposures of every stack and\n"
                "verdandi blends the stacks into the 8-bit panorama. With --hdr (the default\n"
                "when the description's output mode is 32-bit HDR) each stack is merged to\n"
                "linear floating point (hugin_hdrmerge) and enblend blends the stacks into an\n"
@@ -167,6 +169,8 @@ QString StitchCommand::help()
                "  --tools <folder>          where Hugin's programs are (default: PATH)\n"
                "  --timeout <seconds>       longest run of any one program, 1 to 86400\n"
                "                            (default 900)\n"
+               "  --cpfind                  find control points with cpfind even where the\n"
+               "                            recorded positions allow correlation\n"
                "  --force                   replace the panorama when it exists; without it\n"
                "                            the stitch refuses to replace it\n"
                "  -h, --help                this text\n"
@@ -195,7 +199,8 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
         QStringLiteral("timeout"), QString(), QStringLiteral("seconds"));
     const QCommandLineOption hdr(QStringLiteral("hdr"), QString());
     const QCommandLineOption force(QStringLiteral("force"), QString());
-    parser.addOptions({ help, description, output, work, tools, timeout, hdr, force });
+    const QCommandLineOption cpfind(QStringLiteral("cpfind"), QString());
+    parser.addOptions({ help, description, output, work, tools, timeout, hdr, force, cpfind });
     const auto usage = [&console](const QString& message) {
         console.err << "panohead stitch: " << message << " (see panohead stitch --help)\n";
         console.err.flush();
@@ -225,6 +230,7 @@ int StitchCommand::run(const QStringList& arguments, Console& console)
             return usage(QStringLiteral("--timeout is a number of seconds from 1 to %1")
                              .arg(MaxTimeoutSeconds));
     }
+    options.cpfind = parser.isSet(cpfind);
     if (parser.isSet(hdr))
         options.mode = StitchPipeline::Output::Hdr;
     if (!options.output.isEmpty()) {

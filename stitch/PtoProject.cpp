@@ -442,11 +442,12 @@ bool PtoProject::direction(int image, double x, double y, double out[3]) const
     const double length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
     for (double& c : v)
         c /= length;
-    // Roll turns the picture about the axis, pitch raises the axis, yaw
-    // turns it to the right.
+    // Roll turns the camera clockwise about the axis as seen from behind it
+    // (at 90° the picture's top looks to the right), pitch raises the axis,
+    // yaw turns it to the right.
     const double r = roll * degree, p = pitch * degree, w = yaw * degree;
-    const double x1 = v[0] * std::cos(r) - v[1] * std::sin(r);
-    const double y1 = v[0] * std::sin(r) + v[1] * std::cos(r);
+    const double x1 = v[0] * std::cos(r) + v[1] * std::sin(r);
+    const double y1 = -v[0] * std::sin(r) + v[1] * std::cos(r);
     const double z1 = v[2];
     const double y2 = y1 * std::cos(p) + z1 * std::sin(p);
     const double z2 = -y1 * std::sin(p) + z1 * std::cos(p);

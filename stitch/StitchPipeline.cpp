@@ -1,6 +1,7 @@
 #include "StitchPipeline.h"
 
 #include "ControlPointFilter.h"
+#include "CorrelationMatcher.h"
 #include "DescriptionJson.h"
 #include "ImageSize.h"
 #include "PhotoFiles.h"
@@ -23,6 +24,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 
 // cancel() stores into the flag from signal handlers too.
 static_assert(std::atomic<bool>::is_always_lock_free, "the stop flag must be lock-free");
@@ -236,7 +238,158 @@ Outcome runOnProject(Stitch& s, const QString& tool, const QStringList& options,
     return done();
 }
 
+/// A linked pair of pictures that the recorded positions show overlapping
+/// by at least this part of a picture must get points by correlation, else
+/// cpfind looks for them.
+const double SubstantialOverlap = 0.1;
+/// A picture that overlaps a linked picture by at least this part must get
+/// a point by correlation, else cpfind looks for them.
+const double SomeOverlap = 0.02;
+
+/// Whether the points can be found by correlation: the positions are
+/// recorded and only the stacks' references need points (hard links inside
+/// the stacks, or stacks of one picture).
+bool correlating(const Stitch& s)
+{
+    return s.panorama.m_useRecordedLocation && !s.options.cpfind
+        && (s.panorama.m_stackLinking == 0 || s.references.size() == s.imageCount);
+}
+
+/// The references of every two linked stacks, the smaller image first, in
+/// order.
+QVector<QPair<int, int>> linkedReferences(const Stitch& s)
+{
+    QVector<QPair<int, int>> pairs;
+    for (const AuthorizedLink& link : s.panorama.m_links) {
+        if (link.m_stackIndices.size() < 2)
+            continue;
+        const int a = link.m_stackIndices[0], b = link.m_stackIndices[1];
+        if (a == b || a < 0 || b < 0 || a >= s.stackImages.size() || b >= s.stackImages.size()
+            || s.stackImages[a].isEmpty() || s.stackImages[b].isEmpty())
+            continue;
+        const int first = s.stackImages[a].first(), second = s.stackImages[b].first();
+        const QPair<int, int> pair(qMin(first, second), qMax(first, second));
+        if (!pairs.contains(pair))
+            pairs << pair;
+    }
+    std::sort(pairs.begin(), pairs.end());
+    return pairs;
+}
+
+/// What correlation left without points that cpfind may find ("stacks 0-1,
+/// 2-3" or "the picture of stack 4"); empty when nothing is missing.
+QString correlationGaps(const Stitch& s, const CorrelationMatcher::Result& result)
+{
+    QStringList pairs;
+    QMap<int, bool> pictures;
+    for (const CorrelationMatcher::PairResult& pair : result.pairs) {
+        if (pair.overlap >= SubstantialOverlap && pair.points == 0)
+            pairs << QStringLiteral("%1-%2")
+                         .arg(s.stackOf.value(pair.first))
+                         .arg(s.stackOf.value(pair.second));
+        for (int image : { pair.first, pair.second }) {
+            if (pair.overlap >= SomeOverlap)
+                pictures[image] = pictures.value(image) || pair.points > 0;
+        }
+    }
+    if (!pairs.isEmpty())
+        return QStringLiteral("stacks %1").arg(pairs.join(QStringLiteral(", ")));
+    QStringList alone;
+    for (auto it = pictures.constBegin(); it != pictures.constEnd(); ++it) {
+        if (!it.value())
+            alone << QString::number(s.stackOf.value(it.key()));
+    }
+    if (alone.isEmpty())
+        return QString();
+    return QStringLiteral("the picture of stack %1").arg(alone.join(QStringLiteral(", ")));
+}
+
+/// Appends lines to the stitch's log.
+void appendToLog(const Stitch& s, const QString& text)
+{
+    QFile log(s.log);
+    if (log.open(QIODevice::Append))
+        log.write(text.toUtf8());
+}
+
+/// The references' points by correlation at the recorded positions, into
+/// work/01-cpfind.pto. True in *fallBack when cpfind is to look instead;
+/// *gaps then says what correlation left without points, and is empty when
+/// correlation declined (a projection it does not support, a picture it
+/// cannot read). The log says which and why.
+Outcome correlate(Stitch& s, bool* fallBack, QString* gaps)
+{
+    *fallBack = false;
+    const QVector<QPair<int, int>> pairs = linkedReferences(s);
+    // The process's processor time, all threads: nothing else runs in the
+    // process while the step does.
+    const std::clock_t started = std::clock();
+    const CorrelationMatcher::Result result = CorrelationMatcher::match(
+        s.currentProject, QFileInfo(s.current).absolutePath(), pairs, 0, s.stop);
+    const double seconds = double(std::clock() - started) / CLOCKS_PER_SEC;
+    if (result.outcome == CorrelationMatcher::Result::Stopped) {
+        Outcome outcome;
+        outcome.stopped = true;
+        return outcome;
+    }
+    QString log = QStringLiteral("$ correlation of %1 pairs of pictures\n").arg(pairs.size());
+    if (result.outcome == CorrelationMatcher::Result::Declined) {
+        appendToLog(
+            s, log + QStringLiteral("declined: %1; cpfind looks instead\n").arg(result.reason));
+        *fallBack = true;
+        return done();
+    }
+    for (const CorrelationMatcher::PairResult& pair : result.pairs)
+        log += QStringLiteral("images %1-%2 (stacks %3-%4): overlap %5%, %6 points\n")
+                   .arg(pair.first)
+                   .arg(pair.second)
+                   .arg(s.stackOf.value(pair.first))
+                   .arg(s.stackOf.value(pair.second))
+                   .arg(qRound(pair.overlap * 100))
+                   .arg(pair.points);
+    *gaps = correlationGaps(s, result);
+    if (result.points.isEmpty() && gaps->isEmpty())
+        *gaps = QStringLiteral("every pair");
+    if (!gaps->isEmpty()) {
+        appendToLog(s, log + QStringLiteral("no points for %1; cpfind looks instead\n").arg(*gaps));
+        *fallBack = true;
+        return done();
+    }
+    appendToLog(s,
+        log
+            + QStringLiteral("%1 points, %2 s of processor time\n")
+                  .arg(result.points.size())
+                  .arg(seconds, 0, 'f', 2));
+    PtoProject project = s.currentProject;
+    project.setControlPoints(result.points);
+    const QString output = s.workFile(QStringLiteral("01-cpfind.pto"));
+    QString error;
+    if (!project.write(output, &error))
+        return failure(error);
+    s.current = output;
+    s.currentProject = project;
+    return done(QStringLiteral("%1 points by correlation at the recorded positions")
+                    .arg(result.points.size()));
+}
+
+Outcome findControlPointsWithCpfind(Stitch& s);
+
 Outcome findControlPoints(Stitch& s)
+{
+    QString gaps;
+    if (correlating(s)) {
+        bool fallBack = false;
+        const Outcome outcome = correlate(s, &fallBack, &gaps);
+        if (!fallBack)
+            return outcome;
+    }
+    Outcome outcome = findControlPointsWithCpfind(s);
+    if (outcome.error.isEmpty() && !outcome.stopped && !gaps.isEmpty())
+        outcome.note += QStringLiteral(" by cpfind: correlation found none for %1").arg(gaps);
+    return outcome;
+}
+
+Outcome findControlPointsWithCpfind(Stitch& s)
 {
     const StructuredPanoramaProperties& p = s.panorama;
     // With hard links inside the stacks and links detected in the reference

@@ -1,5 +1,7 @@
 // StitchPipeline: stitches a project written by "panohead import" with Hugin's
-// programs, up to the finished panorama: control points (cpfind), the removal
+// programs, up to the finished panorama: control points (by correlation at
+// the recorded positions when the description uses them, else or where
+// correlation leaves linked pictures without points by cpfind), the removal
 // of points between stacks that no authorised link joins, cpclean,
 // autooptimiser, optionally the removal of links that disagree with the
 // optimised positions, pano_modify, then the render. A shoot of single
@@ -64,6 +66,10 @@ public:
         QString tools;
         /// Seconds any one program may run.
         int timeoutSeconds = 900;
+        /// Control points are found by cpfind even where correlation at the
+        /// recorded positions could find them ("Use recorded location" with
+        /// hard links inside the stacks, or stacks of one picture).
+        bool cpfind = false;
     };
 
     /// One step's start, progress or end, as the progress callback receives it.
@@ -75,7 +81,8 @@ public:
             /// and "Remapping to linear light" count them). Comes first with
             /// done 0, then once per picture, done counting up to total.
             Progressed,
-            /// Ended well; note may say what it found ("340 points").
+            /// Ended well; note may say what it found ("340 points"; the
+            /// control points' step says when correlation found them).
             Done,
             /// Ended with an error; note holds the reason.
             Failed,

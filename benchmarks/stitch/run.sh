@@ -34,6 +34,8 @@
 # <work>/runs/<variant> (the last run only), the table in <work>/report.md.
 # ZPH_BENCH_BUILD names the build folder holding app/panohead (default
 # build/release, configured and built here when needed).
+# ZPH_BENCH_STITCH_ARGS: more options for our "panohead stitch" (e.g.
+# --cpfind, to measure cpfind where correlation would find the points).
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
@@ -56,12 +58,14 @@ variant() {
     ours-clauss)
       tool import "$ZPH_BENCH_PANOHEAD" import clauss "$ZPH_BENCH_REFERENCES/clauss.txt" \
         "$ZPH_BENCH_REFERENCES" -o "$dir" --name shoot
-      tool stitch "$ZPH_BENCH_PANOHEAD" stitch "$dir/shoot.pto"
+      # shellcheck disable=SC2086 # the options are words
+      tool stitch "$ZPH_BENCH_PANOHEAD" stitch ${ZPH_BENCH_STITCH_ARGS:-} "$dir/shoot.pto"
       ;;
     ours-papywizard)
       tool import "$ZPH_BENCH_PANOHEAD" import papywizard "$ZPH_BENCH_RECORD" \
         "$ZPH_BENCH_PHOTOS" -o "$dir" --name shoot
-      tool stitch "$ZPH_BENCH_PANOHEAD" stitch "$dir/shoot.pto"
+      # shellcheck disable=SC2086 # the options are words
+      tool stitch "$ZPH_BENCH_PANOHEAD" stitch ${ZPH_BENCH_STITCH_ARGS:-} "$dir/shoot.pto"
       ;;
     stock)
       local photographs=()

@@ -77,6 +77,8 @@ private slots:
     void stitchSteps_data();
     void stitchSteps();
     void stitchWithoutDetection();
+    void stitchCpfindOption_data();
+    void stitchCpfindOption();
     void stitchStoppedByInterrupt();
     void stitchCountsPicturesOnATerminal();
 
@@ -559,6 +561,38 @@ void tst_CommandLine::stitchWithoutDetection()
     QVERIFY2(o.code == 0, qPrintable(o.err));
     QVERIFY(o.out.startsWith(QStringLiteral("[1/4] autooptimiser: placing the pictures ... done")));
     QVERIFY(o.out.contains(QStringLiteral("no control points: recorded positions")));
+}
+
+void tst_CommandLine::stitchCpfindOption_data()
+{
+    QTest::addColumn<bool>("cpfind");
+    QTest::newRow("correlation first") << false;
+    QTest::newRow("--cpfind") << true;
+}
+
+void tst_CommandLine::stitchCpfindOption()
+{
+    QFETCH(bool, cpfind);
+    const QString folder = path(QStringLiteral("cpfind-%1").arg(++m_toolSets));
+    Outcome o = command({ QStringLiteral("import"), QStringLiteral("papywizard"),
+        QStringLiteral("--focal"), QStringLiteral("35"), data(QStringLiteral("three-shots.xml")),
+        path(QStringLiteral("three")), QStringLiteral("-o"), folder });
+    QCOMPARE(o.code, 0);
+    const QString tools = QDir(folder).filePath(QStringLiteral("tools"));
+    QVERIFY(makeTools(tools, {}));
+    QStringList arguments { QStringLiteral("stitch"), QStringLiteral("--tools"), tools };
+    if (cpfind)
+        arguments << QStringLiteral("--cpfind");
+    o = command(arguments << QDir(folder).filePath(QStringLiteral("three-shots.pto")));
+    QVERIFY2(o.code == 0, qPrintable(o.err));
+    // The record's positions are used: correlation is tried first unless
+    // --cpfind asks for cpfind alone. The pictures are of one colour, so
+    // correlation leaves the linked pair without points and cpfind runs.
+    QFile log(QDir(folder).filePath(QStringLiteral("three-shots.stitch/stitch.log")));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QByteArray text = log.readAll();
+    QCOMPARE(text.contains("$ correlation of 1 pairs of pictures"), !cpfind);
+    QVERIFY(text.contains("cpfind"));
 }
 
 void tst_CommandLine::stitchStoppedByInterrupt()

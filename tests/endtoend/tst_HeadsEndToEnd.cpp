@@ -238,6 +238,10 @@ void tst_HeadsEndToEnd::importAndStitch()
     r = run(QStringLiteral(ZPH_PANOHEAD),
         { QStringLiteral("stitch"), QDir(output).filePath(QStringLiteral("shoot.pto")) }, 300000);
     QVERIFY2(r.exitCode == 0, qPrintable(r.output));
+    // Every head records the positions: the control points come from
+    // correlation there, without cpfind.
+    QVERIFY2(r.output.contains(QStringLiteral(" points by correlation at the recorded positions")),
+        qPrintable(r.output));
 
     PtoProject final;
     QString error;

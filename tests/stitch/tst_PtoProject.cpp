@@ -264,6 +264,14 @@ void tst_PtoProject::pointError_data()
         << "c n0 N1 x200 y114.60 X200 Y185.40 t0" << 0.0;
     QTest::newRow("yaw -40 is to the left") << "f0 v52.6 y-40 p0 r0"
                                             << "c n0 N1 x52.71 y150 X347.29 Y150 t0" << 0.0;
+    // A camera rolled by 90° (a portrait picture stored standing) sees what
+    // lies to the right above its centre.
+    QTest::newRow("roll 90: 20° to the right lies 147.29 pixels above the centre")
+        << "f0 v52.6 y0 p0 r90"
+        << "c n0 N1 x347.29 y150 X200 Y2.71 t0" << 0.0;
+    QTest::newRow("roll -90: 20° to the right lies 147.29 pixels below the centre")
+        << "f0 v52.6 y0 p0 r-90"
+        << "c n0 N1 x347.29 y150 X200 Y297.29 t0" << 0.0;
     QTest::newRow("fisheye 180° across, yaw 20: at its centre")
         << "f3 v180 y20 p0 r0"
         << "c n0 N1 x347.29 y150 X200 Y150 t0" << 0.0;

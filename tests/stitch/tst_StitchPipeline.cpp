@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QLockFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -67,6 +68,13 @@ struct Shoot
     bool skipOptimization = false;
     /// Single pictures all shot at one exposure value.
     bool oneExposure = false;
+    /// Real photographs instead of stand-ins: three of the bundled sample's
+    /// at the angles its record gives (yaw 0 and 40 of the top row, yaw -80
+    /// of the bottom row); single pictures only.
+    bool samplePictures = false;
+    /// With samplePictures: the second picture is of one grey, without
+    /// anything to match.
+    bool flatSecond = false;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -220,6 +228,8 @@ private slots:
     void referencesOnlyWithHardLinks();
     void optimisesWhatTheHeadLeavesOpen_data();
     void optimisesWhatTheHeadLeavesOpen();
+    void correlationOrCpfind_data();
+    void correlationOrCpfind();
 
 private:
     /// A folder with the project, its description and stand-in tools (the
@@ -258,6 +268,12 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     QByteArray text = shoot.stacked ? StackedProjectText : ProjectText;
     if (shoot.oneExposure)
         text.replace("Eev13.4", "Eev12.9");
+    if (shoot.samplePictures) {
+        text.replace("v52.6 ", "v52.622545 ");
+        text.replace("r0 p0 y0 ", "r0 p15.8 y-0.4 ");
+        text.replace("r0 p0 y40 ", "r0 p15.5 y39.7 ");
+        text.replace("r0 p0 y160 ", "r0 p-15.2 y-81.4 ");
+    }
     project.write(text);
     project.close();
     StructuredPanoramaProperties panorama;
@@ -266,6 +282,25 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
         if (shoot.stacked)
             stack << folder.filePath(QLatin1String(name) + QStringLiteral("b.jpg"));
         panorama.m_stacks << stack;
+        if (shoot.samplePictures) {
+            const QString photo = stack.first();
+            // P1 and P2 are neighbours of the top row, P3 is far from both.
+            const QStringList names { QStringLiteral("P1"), QStringLiteral("P2"),
+                QStringLiteral("P3") };
+            const QStringList numbers { QStringLiteral("07"), QStringLiteral("10"),
+                QStringLiteral("28") };
+            const QString source = QStringLiteral(ZPH_SAMPLE_SHOOT "/IMG_00%1.jpg")
+                                       .arg(numbers.value(names.indexOf(QLatin1String(name))));
+            if (shoot.flatSecond && QLatin1String(name) == QLatin1String("P2")) {
+                QImage grey(400, 300, QImage::Format_RGB32);
+                grey.fill(qRgb(128, 128, 128));
+                if (!grey.save(photo))
+                    return options;
+            } else if (!QFile::copy(source, photo)) {
+                return options;
+            }
+            continue;
+        }
         // The stand-ins never read a photograph; the stitch checks it is there.
         for (const QString& photo : stack) {
             QFile file(photo);
@@ -1317,6 +1352,83 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
     QCOMPARE(lines.size(), 2);
     QVERIFY2(lines[0].startsWith(options + QStringLiteral(" -o ")), qPrintable(lines[0]));
     QCOMPARE(lines[1], variables);
+}
+
+void tst_StitchPipeline::correlationOrCpfind_data()
+{
+    QTest::addColumn<bool>("recorded");
+    QTest::addColumn<bool>("flatSecond");
+    QTest::addColumn<bool>("option");
+    QTest::addColumn<bool>("cpfindRuns");
+    QTest::addColumn<QString>("note");
+    const QString correlated
+        = QStringLiteral("^\\d+ points by correlation at the recorded positions$");
+    QTest::newRow("recorded positions: correlation")
+        << true << false << false << false << correlated;
+    QTest::newRow("cpfind asked for")
+        << true << false << true << true << QStringLiteral("^1 points$");
+    QTest::newRow("without recorded positions")
+        << false << false << false << true << QStringLiteral("^1 points$");
+    QTest::newRow("a linked pair without points falls back")
+        << true << true << false << true
+        << QStringLiteral("^1 points by cpfind: correlation found none for stacks 0-1$");
+}
+
+void tst_StitchPipeline::correlationOrCpfind()
+{
+    QFETCH(bool, recorded);
+    QFETCH(bool, flatSecond);
+    QFETCH(bool, option);
+    QFETCH(bool, cpfindRuns);
+    QFETCH(QString, note);
+    Shoot shoot;
+    shoot.samplePictures = true;
+    shoot.flatSecond = flatSecond;
+    shoot.useRecordedLocation = recorded;
+    const QString marker = m_dir.filePath(QStringLiteral("cpfind-ran-%1").arg(m_folders + 1));
+    StitchPipeline::Options options
+        = makeStitch({ { QStringLiteral("cpfind"),
+                         QStringLiteral("touch \"%1\"\n").arg(marker)
+                             + wellBehavedTools().value(QStringLiteral("cpfind")) } },
+            shoot);
+    QVERIFY(!options.project.isEmpty());
+    options.cpfind = option;
+    StitchPipeline pipeline(options);
+    Worker worker(pipeline);
+    worker.join();
+    const Result& result = worker.result();
+    QVERIFY2(result.succeeded(), qPrintable(result.error));
+    QCOMPARE(QFile::exists(marker), cpfindRuns);
+
+    const QVector<StepEvent> events = startsAndEnds(worker.events());
+    QVERIFY(events.size() > 4);
+    QCOMPARE(events[1].tool, QStringLiteral("cpfind"));
+    QCOMPARE(events[1].phase, StepEvent::Done);
+    QVERIFY2(QRegularExpression(note).match(events[1].note).hasMatch(), qPrintable(events[1].note));
+
+    PtoProject found;
+    QString error;
+    const QDir work(result.workFolder);
+    QVERIFY2(found.read(work.filePath(QStringLiteral("01-cpfind.pto")), &error), qPrintable(error));
+    const QVector<PtoProject::ControlPoint> points = found.controlPoints();
+    if (cpfindRuns) {
+        QCOMPARE(points.size(), 1);
+        return;
+    }
+    // Only the linked pair is searched; its points agree with the recorded
+    // positions to within their error of about a degree.
+    QVERIFY2(points.size() >= 10, qPrintable(QString::number(points.size())));
+    for (const PtoProject::ControlPoint& point : points) {
+        QCOMPARE(point.first, 0);
+        QCOMPARE(point.second, 1);
+        bool ok = false;
+        QVERIFY(found.pointError(point, &ok) < 2.0);
+        QVERIFY(ok);
+    }
+    QCOMPARE(events[3].note, QStringLiteral("%1 points kept, 0 removed").arg(points.size()));
+    QFile log(result.log);
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QVERIFY(log.readAll().contains("correlation of 1 pairs of pictures"));
 }
 
 QTEST_GUILESS_MAIN(tst_StitchPipeline)
