@@ -27,10 +27,14 @@ bool StitchRunner::Start(const StitchPipeline::Options& options)
     // no Qt event is posted from the worker. The runner waits for the worker
     // before it goes.
     pipeline->setProgress([this](const StitchPipeline::StepEvent& event) {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_events.append(event);
-        }
+        // The texts are copied, not shared: the worker goes on reusing its
+        // own, and a count shared with Qt's library code is one that
+        // ThreadSanitizer cannot follow across the threads.
+        StitchPipeline::StepEvent copy = event;
+        for (QString* text : { &copy.tool, &copy.name, &copy.note })
+            *text = QString(text->constData(), text->size());
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_events.append(copy);
     });
     m_thread = QThread::create([this, pipeline] {
         const StitchPipeline::Result result = pipeline->run();

@@ -311,15 +311,26 @@ int coarseLevel(double width)
     return level;
 }
 
-bool loadPicture(const QString& path, const Camera& camera, Picture* picture, QString* reason)
+/// Decodes one picture at a time: Qt's image readers share the plug-ins'
+/// state between threads under Qt's own locks, which ThreadSanitizer cannot
+/// see. The other threads go on matching meanwhile.
+QImage decode(const QString& path, QString* reason)
 {
+    static std::mutex decoding;
+    const std::lock_guard<std::mutex> lock(decoding);
     QImageReader reader(path);
     reader.setAutoTransform(false);
     QImage image = reader.read();
-    if (image.isNull()) {
+    if (image.isNull())
         *reason = QStringLiteral("cannot read %1: %2").arg(path, reader.errorString());
+    return image;
+}
+
+bool loadPicture(const QString& path, const Camera& camera, Picture* picture, QString* reason)
+{
+    QImage image = decode(path, reason);
+    if (image.isNull())
         return false;
-    }
     if (image.width() != int(camera.width) || image.height() != int(camera.height)) {
         *reason = QStringLiteral("%1 is %2 × %3 pixels, the project says %4 × %5")
                       .arg(path)
@@ -329,16 +340,28 @@ bool loadPicture(const QString& path, const Camera& camera, Picture* picture, QS
                       .arg(camera.height);
         return false;
     }
-    image = image.convertToFormat(QImage::Format_Grayscale8);
+    // Grey levels of the formats JPEG decodes to are taken here rather than
+    // by QImage's conversions, which split large pictures over Qt's global
+    // thread pool: the pictures are already read on several threads of ours.
+    // Other formats go through RGB32 first.
+    const bool grey = image.format() == QImage::Format_Grayscale8;
+    if (!grey && image.format() != QImage::Format_RGB32 && image.format() != QImage::Format_ARGB32)
+        image = image.convertToFormat(QImage::Format_RGB32);
     Level full;
     full.width = image.width();
     full.height = image.height();
     full.pixels.resize(size_t(full.width) * size_t(full.height));
     for (int y = 0; y < full.height; ++y) {
-        const uchar* line = image.constScanLine(y);
         float* out = full.pixels.data() + size_t(y) * size_t(full.width);
-        for (int x = 0; x < full.width; ++x)
-            out[x] = line[x];
+        if (grey) {
+            const uchar* line = image.constScanLine(y);
+            for (int x = 0; x < full.width; ++x)
+                out[x] = line[x];
+        } else {
+            const QRgb* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+            for (int x = 0; x < full.width; ++x)
+                out[x] = float(qGray(line[x]));
+        }
     }
     picture->coarse = coarseLevel(camera.width);
     picture->levels.push_back(std::move(full));

@@ -165,7 +165,16 @@ QImage reprojected(const QImage& photograph, const Position& at, const Lens& len
 {
     const Lens sample;
     const double focal = sample.width / 2.0 / std::tan(sample.fov * M_PI / 360.0);
-    const QImage grey = photograph.convertToFormat(QImage::Format_Grayscale8);
+    // Grey levels taken here: QImage's own conversion of a picture this size
+    // runs on Qt's thread pool, whose hand-overs ThreadSanitizer cannot see.
+    const QImage colour = photograph.convertToFormat(QImage::Format_RGB32);
+    QImage grey(colour.size(), QImage::Format_Grayscale8);
+    for (int y = 0; y < colour.height(); ++y) {
+        const QRgb* in = reinterpret_cast<const QRgb*>(colour.constScanLine(y));
+        uchar* line = grey.scanLine(y);
+        for (int x = 0; x < colour.width(); ++x)
+            line[x] = uchar(qGray(in[x]));
+    }
     QImage out(lens.width, lens.height, QImage::Format_Grayscale8);
     out.fill(0);
     for (int y = 0; y < lens.height; ++y) {
