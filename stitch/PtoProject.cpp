@@ -369,6 +369,29 @@ QSize PtoProject::panoramaSize() const
     return QSize();
 }
 
+double PtoProject::panoramaNumber(const QString& variable, bool* ok) const
+{
+    *ok = false;
+    for (const QString& line : m_lines) {
+        if (!isLine(line, 'p'))
+            continue;
+        TokenReader reader(line);
+        QStringRef t;
+        reader.next(&t); // the line's kind
+        while (reader.next(&t)) {
+            if (!t.startsWith(variable))
+                continue;
+            const double value = t.mid(variable.size()).toDouble(ok);
+            // A token that goes on with letters names another variable.
+            if (*ok && std::isfinite(value))
+                return value;
+            *ok = false;
+        }
+        return 0.0;
+    }
+    return 0.0;
+}
+
 QRect PtoProject::crop() const
 {
     for (const QString& line : m_lines) {

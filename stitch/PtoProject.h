@@ -45,6 +45,9 @@ public:
 
     /// The p line's w and h; invalid when missing.
     QSize panoramaSize() const;
+    /// A number of the p line: "f" its projection, "v" its horizontal field
+    /// of view; false in *ok when absent or not a finite number.
+    double panoramaNumber(const QString& variable, bool* ok) const;
     /// The p line's crop (S<left>,<right>,<top>,<bottom>) as a rectangle;
     /// null when there is none.
     QRect crop() const;

@@ -45,6 +45,8 @@ private slots:
     void linkedValues();
     void controlPoints();
     void canvasAndCrop();
+    void panoramaNumber_data();
+    void panoramaNumber();
     void subset();
     void renumbered();
     void absoluteNames();
@@ -114,6 +116,34 @@ void tst_PtoProject::canvasAndCrop()
     QCOMPARE(noCrop.panoramaSize(), QSize(100, 50));
     QVERIFY(!parsed(QStringLiteral("m i0\n")).panoramaSize().isValid());
     QVERIFY(parsed(QStringLiteral("p w100 h50 S10,5,0,50\n")).crop().isNull());
+}
+
+void tst_PtoProject::panoramaNumber_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<double>("value");
+    const QString line = QStringLiteral("p f2 w3000 h1500 v360 E12.5 R0 n\"TIFF_m c:LZW\"\n");
+    QTest::newRow("projection") << line << "f" << true << 2.0;
+    QTest::newRow("field of view") << line << "v" << true << 360.0;
+    QTest::newRow("fraction") << line << "E" << true << 12.5;
+    QTest::newRow("absent") << line << "k" << false << 0.0;
+    QTest::newRow("a longer name") << QStringLiteral("p f2 vb3 v90\n") << "v" << true << 90.0;
+    QTest::newRow("not a number") << QStringLiteral("p f2 vx\n") << "v" << false << 0.0;
+    QTest::newRow("not finite") << QStringLiteral("p f2 vinf\n") << "v" << false << 0.0;
+    QTest::newRow("no p line") << QStringLiteral("m i0\n") << "f" << false << 0.0;
+}
+
+void tst_PtoProject::panoramaNumber()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, variable);
+    QFETCH(bool, found);
+    QFETCH(double, value);
+    bool ok = !found;
+    QCOMPARE(parsed(line).panoramaNumber(variable, &ok), value);
+    QCOMPARE(ok, found);
 }
 
 void tst_PtoProject::subset()

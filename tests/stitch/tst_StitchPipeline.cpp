@@ -18,6 +18,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <thread>
 
 namespace {
@@ -75,6 +76,9 @@ struct Shoot
     /// With samplePictures: the second picture is of one grey, without
     /// anything to match.
     bool flatSecond = false;
+    /// The p line's projection, field of view and size instead of the whole
+    /// sphere's "f2 w2736 h1368 v360".
+    QByteArray canvas;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -268,6 +272,8 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
     QByteArray text = shoot.stacked ? StackedProjectText : ProjectText;
     if (shoot.oneExposure)
         text.replace("Eev13.4", "Eev12.9");
+    if (!shoot.canvas.isEmpty())
+        text.replace("f2 w2736 h1368 v360", shoot.canvas);
     if (shoot.samplePictures) {
         text.replace("v52.6 ", "v52.622545 ");
         text.replace("r0 p0 y0 ", "r0 p15.8 y-0.4 ");
@@ -1305,19 +1311,35 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen_data()
     // optimisation) and the project's v lines it is given.
     QTest::addColumn<QString>("options");
     QTest::addColumn<QString>("variables");
+    QTest::addColumn<QByteArray>("canvas");
+    const QByteArray sphere;
     QTest::newRow("recorded positions, known focal length")
-        << 35.0f << true << false << false << "-n -m -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
-    QTest::newRow("unknown focal length")
-        << 0.0f << true << false << false << "-n -m -l -s" << "v v0|v y1 p1 r1|v y2 p2 r2|v|";
-    QTest::newRow("every pair searched")
-        << 35.0f << false << false << false << "-a -m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
-    QTest::newRow("skip optimization")
-        << 35.0f << true << true << false << "-m -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+        << 35.0f << true << false << false << "-n -m -l"
+        << "v y1 p1 r1|v y2 p2 r2|v|" << sphere;
+    QTest::newRow("unknown focal length") << 0.0f << true << false << false << "-n -m -l"
+                                          << "v v0|v y1 p1 r1|v y2 p2 r2|v|" << sphere;
+    QTest::newRow("every pair searched") << 35.0f << false << false << false << "-a -m -l"
+                                         << "v r1 p1 y1|v r2 p2 y2|v|" << sphere;
+    QTest::newRow("skip optimization") << 35.0f << true << true << false << "-m -l"
+                                       << "v r1 p1 y1|v r2 p2 y2|v|" << sphere;
     // Nothing to bring to one exposure: no photometric optimisation.
-    QTest::newRow("one exposure value")
-        << 35.0f << true << false << true << "-n -l -s" << "v y1 p1 r1|v y2 p2 r2|v|";
+    QTest::newRow("one exposure value") << 35.0f << true << false << true << "-n -l"
+                                        << "v y1 p1 r1|v y2 p2 r2|v|" << sphere;
     QTest::newRow("one exposure value, every pair searched")
-        << 35.0f << false << false << true << "-a -l -s" << "v r1 p1 y1|v r2 p2 y2|v|";
+        << 35.0f << false << false << true << "-a -l"
+        << "v r1 p1 y1|v r2 p2 y2|v|" << sphere;
+    // A canvas that may leave pictures outside: autooptimiser chooses one.
+    const QString variables = QStringLiteral("v y1 p1 r1|v y2 p2 r2|v|");
+    QTest::newRow("rectilinear canvas") << 35.0f << true << false << false << "-n -m -l -s"
+                                        << variables << QByteArray("f0 w2736 h1368 v360");
+    QTest::newRow("equirectangular, part of the sphere")
+        << 35.0f << true << false << false << "-n -m -l -s" << variables
+        << QByteArray("f2 w2736 h1368 v180");
+    QTest::newRow("equirectangular, a band of the sphere")
+        << 35.0f << true << false << false << "-n -m -l -s" << variables
+        << QByteArray("f2 w2736 h600 v360");
+    QTest::newRow("cylindrical, whole width") << 35.0f << true << false << false << "-n -m -l -s"
+                                              << variables << QByteArray("f1 w2736 h1368 v360");
 }
 
 void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
@@ -1328,7 +1350,9 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
     QFETCH(bool, oneExposure);
     QFETCH(QString, options);
     QFETCH(QString, variables);
+    QFETCH(QByteArray, canvas);
     Shoot shoot;
+    shoot.canvas = canvas;
     shoot.focalLength = focalLength;
     shoot.useRecordedLocation = recorded;
     shoot.skipOptimization = skip;
@@ -1386,10 +1410,15 @@ void tst_StitchPipeline::correlationOrCpfind()
     shoot.flatSecond = flatSecond;
     shoot.useRecordedLocation = recorded;
     const QString marker = m_dir.filePath(QStringLiteral("cpfind-ran-%1").arg(m_folders + 1));
+    const QString cleanCalls
+        = m_dir.filePath(QStringLiteral("cpclean-calls-%1").arg(m_folders + 1));
     StitchPipeline::Options options
         = makeStitch({ { QStringLiteral("cpfind"),
-                         QStringLiteral("touch \"%1\"\n").arg(marker)
-                             + wellBehavedTools().value(QStringLiteral("cpfind")) } },
+                           QStringLiteral("touch \"%1\"\n").arg(marker)
+                               + wellBehavedTools().value(QStringLiteral("cpfind")) },
+                         { QStringLiteral("cpclean"),
+                             QStringLiteral("echo \"$*\" >> \"%1\"\n").arg(cleanCalls)
+                                 + wellBehavedTools().value(QStringLiteral("cpclean")) } },
             shoot);
     QVERIFY(!options.project.isEmpty());
     options.cpfind = option;
@@ -1405,6 +1434,13 @@ void tst_StitchPipeline::correlationOrCpfind()
     QCOMPARE(events[1].tool, QStringLiteral("cpfind"));
     QCOMPARE(events[1].phase, StepEvent::Done);
     QVERIFY2(QRegularExpression(note).match(events[1].note).hasMatch(), qPrintable(events[1].note));
+    // Points by correlation were checked against their pair's rotation as
+    // they were found: cpclean checks them pair by pair only (-p). cpfind's
+    // points get both of its checks.
+    QFile cleaning(cleanCalls);
+    QVERIFY(cleaning.open(QIODevice::ReadOnly));
+    const QString cleaningOptions = QString::fromLocal8Bit(cleaning.readAll());
+    QCOMPARE(cleaningOptions.startsWith(QLatin1String("-p ")), !cpfindRuns);
 
     PtoProject found;
     QString error;
