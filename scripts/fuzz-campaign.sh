@@ -193,6 +193,7 @@ next_target() {
 # replaces the old one only when the merge has finished.
 compact_corpus() {
   local t=$1 corpus=$dir/corpus/$1 count last
+  mkdir -p "$corpus"
   count=$(find "$corpus" -maxdepth 1 -type f 2>/dev/null | wc -l)
   last=$(cat "$dir/corpus/.$t.compacted" 2>/dev/null || echo 0)
   [ "$count" -ge 200 ] && [ $((count * 2)) -gt $((last * 3)) ] || return 0
@@ -278,7 +279,7 @@ while :; do
   rc=0
   done_pid=""
   wait -n -p done_pid || rc=$?
-  if [ -n "$done_pid" ] && [ -n "${running[$done_pid]:-}" ]; then
+  if [ -n "${done_pid:-}" ] && [ -n "${running[$done_pid]:-}" ]; then
     finish_slice "$done_pid" "$rc"
   fi
 done
