@@ -171,7 +171,7 @@ ImageDefinition* ImageDefinition::Read(
         if (!known(def->m_pixelSize) && !format.isEmpty()) {
             file.seek(0);
             QImageReader sizeReader(&file, format);
-            def->m_pixelSize = sizeReader.size();
+            def->m_pixelSize = Thumbnailer::declaredSize(sizeReader);
         }
         if (!known(def->m_pixelSize)) {
             qCWarning(lcImage) << path << "has no readable picture size";
@@ -179,9 +179,9 @@ ImageDefinition* ImageDefinition::Read(
         }
         if (!format.isEmpty()
             && qint64(def->m_pixelSize.width()) * def->m_pixelSize.height()
-                > Thumbnailer::maxPixels(format)) {
-            qCWarning(lcImage) << path << "declares" << def->m_pixelSize
-                               << "pixels, beyond the limit";
+                > Thumbnailer::maxPixels(format, file.size())) {
+            qCWarning(lcImage) << path << "declares" << def->m_pixelSize << "pixels in"
+                               << file.size() << "bytes, beyond the limit";
             return refuse(ReadFailure::TooLarge);
         }
 

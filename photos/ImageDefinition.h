@@ -63,7 +63,8 @@ public:
         NotAPicture,
         /// A JPEG whose headers or picture data are cut short.
         CutShort,
-        /// Declares more pixels than a picture is decoded at.
+        /// Declares more pixels than a picture is decoded at, or than its
+        /// file can hold.
         TooLarge,
         /// With WithThumbnail: no preview could be made of it.
         NoPreview,

@@ -19,7 +19,7 @@ namespace {
 /// when the declared size is unknown or beyond `maxPixels`, or decoding fails.
 QImage decodeThumbnail(QImageReader& reader, qint64 maxPixels, const QString& what)
 {
-    const QSize declared = reader.size();
+    const QSize declared = Thumbnailer::declaredSize(reader);
     if (!declared.isValid() || declared.isEmpty()) {
         qCDebug(lcImage) << what << "has no readable size:" << reader.errorString();
         return QImage();
@@ -77,7 +77,7 @@ QImage fromPicture(QIODevice& file, const QByteArray& format, const QString& pat
     file.seek(0);
     QImageReader full(&file, format);
     full.setAutoTransform(false);
-    return decodeThumbnail(full, Thumbnailer::maxPixels(format), path);
+    return decodeThumbnail(full, Thumbnailer::maxPixels(format, file.size()), path);
 }
 
 /// The smallest preview the file carries that is large enough, or else the largest.
@@ -101,9 +101,28 @@ QImage fromPreviews(Exiv2::Image& image, const QString& path)
 
 } // namespace
 
-qint64 Thumbnailer::maxPixels(const QByteArray& format)
+QSize Thumbnailer::declaredSize(QImageReader& reader)
 {
-    return format == "jpeg" ? MaxJpegPixels : MaxOtherPixels;
+    const QSize size = reader.size();
+    if (reader.format() != "gif" || !reader.device())
+        return size;
+    // "GIF87a" or "GIF89a", then the canvas's width and height, 16 bits each,
+    // least significant byte first.
+    const QByteArray header = reader.device()->peek(10);
+    if (header.size() < 10 || !header.startsWith("GIF8"))
+        return size;
+    const auto at
+        = [&header](int i) { return int(uchar(header[i])) | int(uchar(header[i + 1])) << 8; };
+    return QSize(at(6), at(8)).expandedTo(size);
+}
+
+qint64 Thumbnailer::maxPixels(const QByteArray& format, qint64 fileSize)
+{
+    if (format == "jpeg")
+        return MaxJpegPixels;
+    if (fileSize >= MaxOtherPixels / MaxPixelsPerByte)
+        return MaxOtherPixels;
+    return qMax(PlausibleAnywayPixels, qMax<qint64>(fileSize, 0) * MaxPixelsPerByte);
 }
 
 Thumbnailer::Result Thumbnailer::make(const Exiv2::ExifData& exif, Exiv2::Image* image,

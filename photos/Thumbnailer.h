@@ -12,6 +12,7 @@
 #include <QString>
 
 class QIODevice;
+class QImageReader;
 namespace Exiv2 {
 class ExifData;
 class Image;
@@ -28,8 +29,21 @@ public:
     /// An embedded thumbnail declaring more than this is not a thumbnail.
     static constexpr qint64 MaxEmbeddedPixels = qint64(4096) * 4096;
 
-    /// The pixels a picture of Qt format `format` may declare to be decoded.
-    static qint64 maxPixels(const QByteArray& format);
+    /// A picture of another format declaring more pixels than this per byte
+    /// of its file cannot hold them (a flat one-bit PNG, the most compressed
+    /// picture, holds about 8000): its decoder would fill a canvas of what
+    /// it declares from a few bytes. Up to PlausibleAnywayPixels always pass.
+    static constexpr qint64 MaxPixelsPerByte = 16384;
+    static constexpr qint64 PlausibleAnywayPixels = qint64(1) << 20;
+
+    /// The size of the picture `reader` would decode. Qt's GIF reader reports
+    /// one that is not the canvas it then fills: a GIF's is read from its
+    /// header.
+    static QSize declaredSize(QImageReader& reader);
+
+    /// The pixels a picture of Qt format `format` in a file of `fileSize`
+    /// bytes may declare to be decoded.
+    static qint64 maxPixels(const QByteArray& format, qint64 fileSize);
 
     struct Result
     {

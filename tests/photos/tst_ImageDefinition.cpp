@@ -110,6 +110,8 @@ private slots:
     void extraFigures();
     void keepsLittleMemory();
     void readsFromSeveralThreads();
+    void refusesMorePixelsThanTheFileHolds_data();
+    void refusesMorePixelsThanTheFileHolds();
 
 private:
     QString path(const QString& name) const { return m_dir.filePath(name); }
@@ -578,6 +580,68 @@ void tst_ImageDefinition::readsFromSeveralThreads()
         thread.join();
     QCOMPARE(reads.load(), Threads * Rounds * int(names.size()));
     QCOMPARE(mismatches.load(), 0);
+}
+
+void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<bool>("read");
+    QTest::addColumn<QSize>("size");
+    // A GIF of 34 bytes: a canvas of width x height, one pixel drawn in it.
+    const auto gif = [](quint16 width, quint16 height) {
+        QByteArray bytes("GIF89a");
+        bytes += char(width & 0xff);
+        bytes += char(width >> 8);
+        bytes += char(height & 0xff);
+        bytes += char(height >> 8);
+        bytes += QByteArray::fromHex("800000" // two colours, background 0
+                                     "000000ffffff" // black, white
+                                     "2c0000000001000100" // a frame of 1 x 1 at 0, 0
+                                     "0202440100" // its pixel, LZW
+                                     "3b");
+        return bytes;
+    };
+    // Its decoder would fill 490 MB for the canvas it declares.
+    QTest::newRow("GIF of 34 bytes, 122 Mpx") << gif(1871, 65439) << "jpg" << false << QSize();
+    QTest::newRow("GIF of 34 bytes, 1 Mpx")
+        << gif(1024, 1024) << "jpg" << true << QSize(1024, 1024);
+    // A flat picture of 2000 x 2000 compresses to a few kilobytes, well
+    // within what such a file can hold.
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    QImage flat(2000, 2000, QImage::Format_RGB32);
+    flat.fill(qRgb(90, 140, 200));
+    flat.save(&buffer, "png");
+    QTest::newRow("flat PNG of 4 Mpx") << png << "png" << true << QSize(2000, 2000);
+}
+
+void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, suffix);
+    QFETCH(bool, read);
+    QFETCH(QSize, size);
+    QVERIFY(bytes.size() >= 34);
+    const QString name
+        = path(QStringLiteral("declares-%1.%2").arg(QTest::currentDataTag()).arg(suffix));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    file.close();
+    ImageDefinition::ReadFailure failure = ImageDefinition::ReadFailure::None;
+    const std::unique_ptr<ImageDefinition> def(
+        ImageDefinition::Read(name, ImageDefinition::WithThumbnail, &failure));
+    QCOMPARE(def != nullptr, read);
+    QCOMPARE(failure,
+        read ? ImageDefinition::ReadFailure::None : ImageDefinition::ReadFailure::TooLarge);
+    if (!read)
+        return;
+    // A GIF's size is its canvas (Qt's reader reported 1871 x 1 for the
+    // canvas of the first row).
+    QCOMPARE(QSize(def->Width(), def->Height()), size);
+    QVERIFY(!def->ThumbnailImage().isNull());
 }
 
 QTEST_MAIN(tst_ImageDefinition)
