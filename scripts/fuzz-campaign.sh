@@ -282,6 +282,17 @@ while :; do
   if [ -n "${done_pid:-}" ] && [ -n "${running[$done_pid]:-}" ]; then
     finish_slice "$done_pid" "$rc"
   fi
+  # A slice that ended while a signal was being handled is not reported by
+  # "wait -n" (which then returns 127 at once, for ever): its status is
+  # asked for by its number.
+  waited=$rc
+  for pid in "${!running[@]}"; do
+    if [ "$waited" = 127 ] || ! kill -0 "$pid" 2> /dev/null; then
+      rc=0
+      wait "$pid" || rc=$?
+      finish_slice "$pid" "$rc"
+    fi
+  done
 done
 
 echo "== campaign totals"
