@@ -343,51 +343,56 @@ void PtoProject::setControlPoints(const QVector<ControlPoint>& points)
     parse(lines.join(QLatin1Char('\n')), &ignored);
 }
 
-QSize PtoProject::panoramaSize() const
+const QString* PtoProject::panoramaLine() const
 {
     for (const QString& line : m_lines) {
-        if (!isLine(line, 'p'))
-            continue;
-        int w = -1, h = -1;
-        TokenReader reader(line);
-        QStringRef t;
-        reader.next(&t); // the line's kind
-        while (reader.next(&t)) {
-            bool number = false;
-            if (t.startsWith(QLatin1Char('w'))) {
-                w = t.mid(1).toInt(&number);
-                if (!number)
-                    w = -1;
-            } else if (t.startsWith(QLatin1Char('h'))) {
-                h = t.mid(1).toInt(&number);
-                if (!number)
-                    h = -1;
-            }
-        }
-        return QSize(w, h);
+        if (isLine(line, 'p'))
+            return &line;
     }
-    return QSize();
+    return nullptr;
+}
+
+QSize PtoProject::panoramaSize() const
+{
+    const QString* line = panoramaLine();
+    if (!line)
+        return QSize();
+    int w = -1, h = -1;
+    TokenReader reader(*line);
+    QStringRef t;
+    reader.next(&t); // the line's kind
+    while (reader.next(&t)) {
+        bool number = false;
+        if (t.startsWith(QLatin1Char('w'))) {
+            w = t.mid(1).toInt(&number);
+            if (!number)
+                w = -1;
+        } else if (t.startsWith(QLatin1Char('h'))) {
+            h = t.mid(1).toInt(&number);
+            if (!number)
+                h = -1;
+        }
+    }
+    return QSize(w, h);
 }
 
 double PtoProject::panoramaNumber(const QString& variable, bool* ok) const
 {
     *ok = false;
-    for (const QString& line : m_lines) {
-        if (!isLine(line, 'p'))
-            continue;
-        TokenReader reader(line);
-        QStringRef t;
-        reader.next(&t); // the line's kind
-        while (reader.next(&t)) {
-            if (!t.startsWith(variable))
-                continue;
-            const double value = t.mid(variable.size()).toDouble(ok);
-            // A token that goes on with letters names another variable.
-            if (*ok && std::isfinite(value))
-                return value;
-            *ok = false;
-        }
+    const QString* line = panoramaLine();
+    if (!line)
         return 0.0;
+    TokenReader reader(*line);
+    QStringRef t;
+    reader.next(&t); // the line's kind
+    while (reader.next(&t)) {
+        if (!t.startsWith(variable))
+            continue;
+        const double value = t.mid(variable.size()).toDouble(ok);
+        // A token that goes on with letters names another variable.
+        if (*ok && std::isfinite(value))
+            return value;
+        *ok = false;
     }
     return 0.0;
 }

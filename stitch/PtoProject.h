@@ -121,6 +121,8 @@ private:
     /// The unit vector of image pixel (x, y) in the panorama's frame: z
     /// ahead at yaw 0 and pitch 0, x to the right, y up.
     bool direction(int image, double x, double y, double out[3]) const;
+    /// The first p line; null when there is none.
+    const QString* panoramaLine() const;
 
     QStringList m_lines;
     QVector<Image> m_images;
