@@ -692,14 +692,75 @@ Outcome removeWrongLinks(Stitch& s)
     return done(QStringLiteral("links removed: %1").arg(reported.join(QStringLiteral(", "))));
 }
 
+/// Whether the pictures lie across the canvas's left and right edges (yaw
+/// 180) without going all the way round: the crop would keep one side of
+/// them only. Each picture covers its yaw plus or minus half its horizontal
+/// field of view, widened for its pitch as at its edge nearest a pole (more
+/// than it covers: a gap narrower than the difference is not seen); one
+/// that reaches a pole covers every yaw.
+bool acrossTheSeam(const PtoProject& project)
+{
+    const double degree = 3.14159265358979323846 / 180.0;
+    QVector<QPair<double, double>> spans;
+    for (int i = 0; i < project.imageCount(); ++i) {
+        bool ok[6] = {};
+        const double yaw = project.number(i, QStringLiteral("y"), &ok[0]);
+        const double pitch = project.number(i, QStringLiteral("p"), &ok[1]);
+        const double fov = project.number(i, QStringLiteral("v"), &ok[2]);
+        const double width = project.number(i, QStringLiteral("w"), &ok[3]);
+        const double height = project.number(i, QStringLiteral("h"), &ok[4]);
+        const double lens = project.number(i, QStringLiteral("f"), &ok[5]);
+        if (std::find(std::begin(ok), std::end(ok), false) != std::end(ok) || width <= 0
+            || height <= 0 || fov <= 0)
+            return false;
+        const double verticalHalf = lens == 0.0
+            ? std::atan(std::tan(qMin(fov, 179.0) / 2 * degree) * height / width) / degree
+            : fov / 2 * height / width;
+        const double top = std::abs(pitch) + verticalHalf;
+        if (top >= 89.0)
+            return false;
+        const double half = fov / 2 / std::cos(top * degree);
+        if (half >= 180.0)
+            return false;
+        const double start = std::remainder(yaw - half, 360.0); // -180 to 180
+        spans << qMakePair(start, start + 2 * half);
+    }
+    // A span across the edge is cut in two: the pictures then cover parts
+    // of -180 to 180, and a gap means they do not go all the way round.
+    QVector<QPair<double, double>> pieces;
+    bool seam = false;
+    for (const auto& span : spans) {
+        if (span.second > 180.0) {
+            seam = true;
+            pieces << qMakePair(span.first, 180.0) << qMakePair(-180.0, span.second - 360.0);
+        } else {
+            pieces << span;
+        }
+    }
+    std::sort(pieces.begin(), pieces.end());
+    bool gap = false;
+    double reached = -180.0;
+    for (const auto& piece : pieces) {
+        gap = gap || piece.first > reached;
+        reached = qMax(reached, piece.second);
+    }
+    gap = gap || reached < 180.0;
+    return gap && seam;
+}
+
 Outcome chooseCanvas(Stitch& s)
 {
     const QString output = s.workFile(QStringLiteral("05-final.pto"));
     PtoProject final;
-    Outcome outcome = runProjectTool(s, QStringLiteral("pano_modify"),
-        { QStringLiteral("--canvas=AUTO"), QStringLiteral("--crop=AUTO"), QStringLiteral("-o"),
-            output, s.current },
-        output, &final, s.imageCount);
+    QStringList arguments;
+    // pano_modify centres such a panorama on its pictures (and chooses its
+    // field of view, which costs more than the rest of this step).
+    if (acrossTheSeam(s.currentProject))
+        arguments << QStringLiteral("--center");
+    arguments << QStringLiteral("--canvas=AUTO") << QStringLiteral("--crop=AUTO")
+              << QStringLiteral("-o") << output << s.current;
+    Outcome outcome
+        = runProjectTool(s, QStringLiteral("pano_modify"), arguments, output, &final, s.imageCount);
     if (!outcome.error.isEmpty())
         return outcome;
     const QSize size = final.panoramaSize();

@@ -79,6 +79,8 @@ struct Shoot
     /// The p line's projection, field of view and size instead of the whole
     /// sphere's "f2 w2736 h1368 v360".
     QByteArray canvas;
+    /// Other texts in the project: each pair's first replaced by its second.
+    QVector<QPair<QByteArray, QByteArray>> changes;
 };
 
 /// Three points that agree with yaw 0 and 40 (at yaw 20 of the panorama)
@@ -232,6 +234,8 @@ private slots:
     void referencesOnlyWithHardLinks();
     void optimisesWhatTheHeadLeavesOpen_data();
     void optimisesWhatTheHeadLeavesOpen();
+    void centresAcrossTheSeam_data();
+    void centresAcrossTheSeam();
     void correlationOrCpfind_data();
     void correlationOrCpfind();
 
@@ -274,6 +278,8 @@ StitchPipeline::Options tst_StitchPipeline::makeStitch(
         text.replace("Eev13.4", "Eev12.9");
     if (!shoot.canvas.isEmpty())
         text.replace("f2 w2736 h1368 v360", shoot.canvas);
+    for (const auto& change : shoot.changes)
+        text.replace(change.first, change.second);
     if (shoot.samplePictures) {
         text.replace("v52.6 ", "v52.622545 ");
         text.replace("r0 p0 y0 ", "r0 p15.8 y-0.4 ");
@@ -1376,6 +1382,64 @@ void tst_StitchPipeline::optimisesWhatTheHeadLeavesOpen()
     QCOMPARE(lines.size(), 2);
     QVERIFY2(lines[0].startsWith(options + QStringLiteral(" -o ")), qPrintable(lines[0]));
     QCOMPARE(lines[1], variables);
+}
+
+void tst_StitchPipeline::centresAcrossTheSeam_data()
+{
+    // The three pictures' positions ("y0 ", "y40 ", "y160 " at pitch 0) and
+    // their field of view, and whether pano_modify is to centre them.
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::addColumn<QByteArray>("third");
+    QTest::addColumn<QByteArray>("fov");
+    QTest::addColumn<bool>("centred");
+    QTest::newRow("0 to 80") << QByteArray("p0 y0 ") << QByteArray("p0 y40 ")
+                             << QByteArray("p0 y80 ") << QByteArray("v52.6 ") << false;
+    QTest::newRow("150 to 210, across the edge")
+        << QByteArray("p0 y150 ") << QByteArray("p0 y180 ") << QByteArray("p0 y-150 ")
+        << QByteArray("v52.6 ") << true;
+    QTest::newRow("a picture at 160 reaching past 180")
+        << QByteArray("p0 y0 ") << QByteArray("p0 y40 ") << QByteArray("p0 y160 ")
+        << QByteArray("v52.6 ") << true;
+    QTest::newRow("all the way round") << QByteArray("p0 y0 ") << QByteArray("p0 y120 ")
+                                       << QByteArray("p0 y-120 ") << QByteArray("v130 ") << false;
+    QTest::newRow("gaps, no picture across the edge")
+        << QByteArray("p0 y0 ") << QByteArray("p0 y120 ") << QByteArray("p0 y-120 ")
+        << QByteArray("v80 ") << false;
+    QTest::newRow("gaps, a picture across the edge")
+        << QByteArray("p0 y0 ") << QByteArray("p0 y120 ") << QByteArray("p0 y180 ")
+        << QByteArray("v80 ") << true;
+    QTest::newRow("across the edge, one picture at a pole")
+        << QByteArray("p0 y150 ") << QByteArray("p0 y180 ") << QByteArray("p80 y-150 ")
+        << QByteArray("v52.6 ") << false;
+}
+
+void tst_StitchPipeline::centresAcrossTheSeam()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    QFETCH(QByteArray, third);
+    QFETCH(QByteArray, fov);
+    QFETCH(bool, centred);
+    Shoot shoot;
+    shoot.changes
+        = { { "p0 y0 ", first }, { "p0 y40 ", second }, { "p0 y160 ", third }, { "v52.6 ", fov } };
+    const QString calls = m_dir.filePath(QStringLiteral("pano_modify-calls-%1").arg(m_folders + 1));
+    StitchPipeline::Options stitch
+        = makeStitch({ { QStringLiteral("pano_modify"),
+                         QStringLiteral("echo \"$*\" >> \"%1\"\n").arg(calls)
+                             + wellBehavedTools().value(QStringLiteral("pano_modify")) } },
+            shoot);
+    QVERIFY(!stitch.project.isEmpty());
+    StitchPipeline pipeline(stitch);
+    Worker worker(pipeline);
+    worker.join();
+    QVERIFY2(worker.result().succeeded(), qPrintable(worker.result().error));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString options = QString::fromLocal8Bit(file.readAll());
+    QVERIFY2(options.startsWith(QLatin1String("--center ")) == centred, qPrintable(options));
+    QVERIFY(options.contains(QLatin1String("--canvas=AUTO --crop=AUTO -o ")));
 }
 
 void tst_StitchPipeline::correlationOrCpfind_data()
