@@ -623,6 +623,13 @@ void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds()
     QFETCH(QString, suffix);
     QFETCH(bool, read);
     QFETCH(QSize, size);
+#if defined(__SANITIZE_THREAD__)
+    // Qt converts a picture of a megapixel on its own thread pool, and the Qt
+    // here is not built for ThreadSanitizer: under it, races inside Qt would
+    // be reported. These rows run in every other build.
+    if (read)
+        QSKIP("Qt's image conversion threads are not built for ThreadSanitizer");
+#endif
     QVERIFY(bytes.size() >= 34);
     const QString name
         = path(QStringLiteral("declares-%1.%2").arg(QTest::currentDataTag()).arg(suffix));
