@@ -10,6 +10,7 @@
 #include "MetadataReader.h"
 #include "Thumbnailer.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -66,7 +67,7 @@ float exposureValue(double seconds, double aperture, int iso)
 
 /// The Qt image format of the picture in `file`: "jpeg" for a file with the
 /// JPEG signature (no probing), else what Qt's readers recognise; empty for none.
-QByteArray pictureFormat(QFile& file, bool jpegSignature)
+QByteArray pictureFormat(QIODevice& file, bool jpegSignature)
 {
     if (jpegSignature)
         return "jpeg";
@@ -118,21 +119,31 @@ ImageDefinition* ImageDefinition::Read(
         // A JPEG is read once up to its picture data: exiv2 parses the
         // headers from memory. Other files exiv2 opens itself. A file exiv2
         // cannot parse may still be a picture Qt reads. A buffer no larger
-        // than the file: a small file costs a small buffer.
+        // than the file: a small file costs a small buffer. A file the first
+        // read holds whole is worked on from memory from then on: nothing is
+        // read twice, and every later look at it costs no system call.
         const QByteArray firstChunk
             = file.read(qMin(JpegStructure::FirstChunkBytes, file.size()));
+        const bool whole = firstChunk.size() == file.size();
+        QBuffer inMemory;
+        if (whole) {
+            inMemory.setData(firstChunk);
+            inMemory.open(QIODevice::ReadOnly);
+        }
+        QIODevice& source = whole ? static_cast<QIODevice&>(inMemory) : file;
         const bool jpegSignature = JpegStructure::hasSignature(firstChunk);
         JpegStructure jpeg;
         if (jpegSignature) {
-            jpeg = JpegStructure::read(file, firstChunk);
-            if (!jpeg.isWhole(file)) {
+            jpeg = JpegStructure::read(source, firstChunk);
+            if (!jpeg.isWhole(source)) {
                 qCWarning(lcImage) << path << "is a truncated or damaged JPEG";
                 return refuse(ReadFailure::CutShort);
             }
         }
         const std::unique_ptr<Exiv2::Image> image = jpegSignature
-            ? MetadataReader::fromHeaders(jpeg.headers(), path)
-            : MetadataReader::fromFile(path);
+            ? MetadataReader::fromMemory(jpeg.headers(), path)
+            : whole ? MetadataReader::fromMemory(firstChunk, path)
+                    : MetadataReader::fromFile(path);
 
         const Exiv2::ExifData empty;
         const Exiv2::ExifData& exif = image ? image->exifData() : empty;
@@ -163,14 +174,14 @@ ImageDefinition* ImageDefinition::Read(
         def->m_exposure = exposureValue(def->m_exposureTime, def->m_aperture, def->m_iso);
 
         // Is it a picture Qt can decode, or one exiv2 knows?
-        const QByteArray format = pictureFormat(file, jpegSignature);
+        const QByteArray format = pictureFormat(source, jpegSignature);
         if (format.isEmpty() && !image) {
             qCWarning(lcImage) << path << "is not a picture";
             return refuse(ReadFailure::NotAPicture);
         }
         if (!known(def->m_pixelSize) && !format.isEmpty()) {
-            file.seek(0);
-            QImageReader sizeReader(&file, format);
+            source.seek(0);
+            QImageReader sizeReader(&source, format);
             def->m_pixelSize = Thumbnailer::declaredSize(sizeReader);
         }
         if (!known(def->m_pixelSize)) {
@@ -187,7 +198,7 @@ ImageDefinition* ImageDefinition::Read(
 
         if (options & WithThumbnail) {
             const Thumbnailer::Result thumbnail
-                = Thumbnailer::make(exif, image.get(), file, format, path);
+                = Thumbnailer::make(exif, image.get(), source, format, path);
             if (thumbnail.image.isNull()) {
                 qCWarning(lcImage) << "no preview can be made of" << path;
                 return refuse(ReadFailure::NoPreview);

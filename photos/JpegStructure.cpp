@@ -1,13 +1,13 @@
 #include "JpegStructure.h"
 
-#include <QFile>
+#include <QIODevice>
 
 bool JpegStructure::hasSignature(const QByteArray& firstBytes)
 {
     return firstBytes.size() >= 2 && uchar(firstBytes[0]) == 0xFF && uchar(firstBytes[1]) == 0xD8;
 }
 
-JpegStructure JpegStructure::read(QFile& file, const QByteArray& firstChunk)
+JpegStructure JpegStructure::read(QIODevice& file, const QByteArray& firstChunk)
 {
     JpegStructure jpeg;
     QByteArray& bytes = jpeg.m_headers;
@@ -49,7 +49,7 @@ JpegStructure JpegStructure::read(QFile& file, const QByteArray& firstChunk)
     return jpeg;
 }
 
-bool JpegStructure::isWhole(QFile& file) const
+bool JpegStructure::isWhole(QIODevice& file) const
 {
     if (m_scanStart < 0)
         return false;

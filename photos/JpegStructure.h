@@ -7,7 +7,7 @@
 
 #include <QByteArray>
 
-class QFile;
+class QIODevice;
 
 class JpegStructure
 {
@@ -21,7 +21,7 @@ public:
 
     /// The structure of `file`, whose first bytes `firstChunk` are already
     /// read. Reads on from the file where the headers are longer.
-    static JpegStructure read(QFile& file, const QByteArray& firstChunk);
+    static JpegStructure read(QIODevice& file, const QByteArray& firstChunk);
 
     /// The header segments, from the start-of-image marker to where the
     /// scan data begins. Incomplete when !headersComplete().
@@ -36,7 +36,7 @@ public:
     /// short in its picture data has none there. The search runs backwards
     /// from the end, so a whole file costs a look at its last bytes; data
     /// appended after the picture is tolerated.
-    bool isWhole(QFile& file) const;
+    bool isWhole(QIODevice& file) const;
 
 private:
     QByteArray m_headers;

@@ -61,12 +61,12 @@ void MetadataReader::initialise()
     });
 }
 
-std::unique_ptr<Exiv2::Image> MetadataReader::fromHeaders(
-    const QByteArray& headers, const QString& path)
+std::unique_ptr<Exiv2::Image> MetadataReader::fromMemory(
+    const QByteArray& bytes, const QString& path)
 {
     return parse(path, [&] {
         return Exiv2::ImageFactory::open(
-            reinterpret_cast<const Exiv2::byte*>(headers.constData()), long(headers.size()));
+            reinterpret_cast<const Exiv2::byte*>(bytes.constData()), long(bytes.size()));
     });
 }
 

@@ -17,11 +17,10 @@ class MetadataReader
 public:
     /// Sets exiv2 up; any thread, any number of times, before the first parse.
     static void initialise();
-    /// The metadata of a JPEG's header segments held in memory. exiv2 reads
-    /// them in place: `headers` must outlive the result. Null when exiv2
-    /// cannot parse them (logged at debug level).
-    static std::unique_ptr<Exiv2::Image> fromHeaders(
-        const QByteArray& headers, const QString& path);
+    /// The metadata of bytes held in memory: a JPEG's header segments, or a
+    /// whole small file. exiv2 reads them in place: `bytes` must outlive the
+    /// result. Null when exiv2 cannot parse them (logged at debug level).
+    static std::unique_ptr<Exiv2::Image> fromMemory(const QByteArray& bytes, const QString& path);
     /// The metadata of the file at `path`, which exiv2 opens itself. Null
     /// when exiv2 cannot parse it (logged at debug level).
     static std::unique_ptr<Exiv2::Image> fromFile(const QString& path);

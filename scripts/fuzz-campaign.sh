@@ -17,6 +17,7 @@
 #                     slices under way when the time is up, or at once on Ctrl-C
 #   --slice <seconds> length of one process's run (default 600)
 #   --until-goals     stop early once every chosen target has reached its goal
+#   --asan            run the slices under AddressSanitizer too (slower; see below)
 #
 # Goals: 10 million executions for every record, script and project reader,
 # 2 million for the image definition. Each slice goes to the running target
@@ -24,10 +25,22 @@
 # go on); its input is in <folder>/findings/ and belongs, once fixed, in
 # fuzz/regressions/<target>/. The exit code is 1 when there was a finding.
 #
-# Environment: ZPH_FUZZ_BUILD (the sanitizer build, default build/fuzz, made by
-# scripts/fuzz.sh), ZPH_FUZZ_COVERAGE_BUILD (default build/fuzz-coverage),
+# Builds: the slices run a build with UndefinedBehaviorSanitizer only
+# (ZPH_FUZZ_FAST_BUILD, default build/fuzz-fast): AddressSanitizer's allocator
+# maps, faults in and unmaps every large block afresh, which costs the image
+# definition two thirds of its time and the record readers half of theirs.
+# Every input a slice adds to the corpus is then run once under
+# AddressSanitizer and UndefinedBehaviorSanitizer (ZPH_FUZZ_BUILD, default
+# build/fuzz, made by scripts/fuzz.sh), and so is every input a corpus
+# reduction keeps; a memory error there is a finding of the slice. With --asan
+# the slices run the AddressSanitizer build itself. The totals count the
+# executions of both kinds, and those under AddressSanitizer apart.
+# Environment: ZPH_FUZZ_COVERAGE_BUILD (default build/fuzz-coverage),
 # ZPH_FUZZ_RSS_MB (memory limit per process, 2560).
 set -euo pipefail
+# Bash reads a script as it runs it: the braces make it read the whole of it
+# first, so a campaign that runs for days is not broken by an edit of this file.
+{
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
@@ -39,6 +52,7 @@ jobs=$(nproc)
 total_time=3600
 slice=600
 until_goals=0
+asan_slices=0
 targets=()
 while [ $# -gt 0 ]; do
   case $1 in
@@ -49,7 +63,8 @@ while [ $# -gt 0 ]; do
     --time) total_time=$2; shift ;;
     --slice) slice=$2; shift ;;
     --until-goals) until_goals=1 ;;
-    -h|--help) sed -n '2,29p' "$0"; exit 0 ;;
+    --asan) asan_slices=1 ;;
+    -h|--help) sed -n '2,40p' "$0"; exit 0 ;;
     fuzz_*) targets+=("$1") ;;
     *) echo "fuzz-campaign.sh: unknown argument $1" >&2; exit 2 ;;
   esac
@@ -60,30 +75,39 @@ for n in "$jobs" "$total_time" "$slice"; do
   [[ $n =~ ^[1-9][0-9]*$ ]] || { echo "fuzz-campaign.sh: $n is not a positive whole number" >&2; exit 2; }
 done
 build=${ZPH_FUZZ_BUILD:-$root/build/fuzz}
+fast_build=${ZPH_FUZZ_FAST_BUILD:-$root/build/fuzz-fast}
 coverage_build=${ZPH_FUZZ_COVERAGE_BUILD:-$root/build/fuzz-coverage}
 rss_mb=${ZPH_FUZZ_RSS_MB:-2560}
 mkdir -p "$dir/corpus" "$dir/totals" "$dir/logs" "$dir/findings"
 
-# The running totals: "<executions> <seconds>" in totals/<target>.
+# The running totals: "<executions> <seconds>" in totals/<target>, and of the
+# slices run under AddressSanitizer in totals/<target>.asan.
 total_of() { cat "$dir/totals/$1" 2>/dev/null || echo "0 0"; }
+add_to() {
+  local file=$1 execs=$2 seconds=$3 old_execs old_seconds
+  read -r old_execs old_seconds < <(cat "$file" 2>/dev/null || echo "0 0")
+  echo "$((old_execs + execs)) $((old_seconds + seconds))" > "$file.new"
+  mv "$file.new" "$file"
+}
 add_total() {
-  local t=$1 execs=$2 seconds=$3 old_execs old_seconds
-  read -r old_execs old_seconds < <(total_of "$t")
-  echo "$((old_execs + execs)) $((old_seconds + seconds))" > "$dir/totals/$t.new"
-  mv "$dir/totals/$t.new" "$dir/totals/$t"
+  add_to "$dir/totals/$1" "$2" "$3"
+  [ "$4" = asan ] && add_to "$dir/totals/$1.asan" "$2" "$3"
+  return 0
 }
 
 status() {
-  printf '%-24s %14s %12s %9s %8s %8s  %s\n' target executions goal reached exec/s corpus findings
-  local t execs seconds rate reached corpus findings
+  printf '%-24s %14s %12s %9s %8s %12s %8s  %s\n' target executions goal reached exec/s \
+    'under ASan' corpus findings
+  local t execs seconds rate reached corpus findings asan_execs
   for t in "${targets[@]}"; do
     read -r execs seconds < <(total_of "$t")
+    read -r asan_execs _ < <(cat "$dir/totals/$t.asan" 2>/dev/null || echo "0 0")
     rate=$([ "$seconds" -gt 0 ] && echo $((execs / seconds)) || echo -)
     reached=$([ "$execs" -ge "$(goal_of "$t")" ] && echo yes || echo no)
     corpus=$(find "$dir/corpus/$t" -type f 2>/dev/null | wc -l)
     findings=$(find "$dir/findings" -name "$t-*" -type f 2>/dev/null | wc -l)
-    printf '%-24s %14s %12s %9s %8s %8s  %s\n' "$t" "$execs" "$(goal_of "$t")" "$reached" \
-      "$rate" "$corpus" "$findings"
+    printf '%-24s %14s %12s %9s %8s %12s %8s  %s\n' "$t" "$execs" "$(goal_of "$t")" "$reached" \
+      "$rate" "$asan_execs" "$corpus" "$findings"
   done
   echo "campaign folder: $dir"
 }
@@ -148,10 +172,18 @@ if [ $mode = coverage ]; then
 fi
 
 ZPH_FUZZ_BUILD=$build "$root/scripts/fuzz.sh" --build-only
+if [ $asan_slices = 1 ]; then
+  slice_build=$build
+  kind=asan
+else
+  ZPH_FUZZ_BUILD=$fast_build ZPH_FUZZ_SANITIZE=undefined "$root/scripts/fuzz.sh" --build-only
+  slice_build=$fast_build
+  kind=fast
+fi
 sanitizer_environment
 
 # The slices under way: pid -> target, pid -> start time.
-declare -A running=() started=()
+declare -A running=() started=() markers=()
 stopping=0
 found=0
 stop() {
@@ -228,10 +260,14 @@ start_slice() {
   args+=($(options_of "$t"))
   local seeds
   mapfile -t seeds < <(seed_dirs "$t")
+  # What the slice adds to the corpus is newer than this mark.
+  local marker=$dir/logs/.$t.slice-start
+  touch "$marker"
   ASAN_OPTIONS="$ASAN_OPTIONS:$(asan_of "$t")" \
-    "$build/fuzz/$t" "${args[@]}" "$dir/corpus/$t" "${seeds[@]}" > "$log" 2>&1 &
+    "$slice_build/fuzz/$t" "${args[@]}" "$dir/corpus/$t" "${seeds[@]}" > "$log" 2>&1 &
   running[$!]=$t
   started[$!]=$(date +%s)
+  markers[$!]=$marker
   echo "$log" > "$dir/logs/$t.current"
   echo "$(date +%H:%M:%S) $t: slice of ${seconds}s started"
 }
@@ -245,16 +281,41 @@ slice_executions() {
   echo "${n:-0}"
 }
 
+# Runs the inputs a fast slice added to the corpus once each under
+# AddressSanitizer; the exit code is the check's (0: nothing found).
+check_new_inputs() {
+  local t=$1 marker=$2 check=$dir/check/$1 log=$dir/logs/$1-check.log n
+  rm -rf "$check"
+  mkdir -p "$check"
+  find "$dir/corpus/$t" -maxdepth 1 -type f -newer "$marker" -exec cp -p {} "$check"/ \;
+  n=$(find "$check" -type f | wc -l)
+  [ "$n" -gt 0 ] || return 0
+  local rc=0
+  ASAN_OPTIONS="$ASAN_OPTIONS:$(asan_of "$t")" "$build/fuzz/$t" -runs=0 -timeout=20 \
+    -rss_limit_mb="$rss_mb" -max_len="$(max_len_of "$t")" -artifact_prefix="$dir/findings/$t-" \
+    "$check" > "$log" 2>&1 || rc=$?
+  echo "$(date +%H:%M:%S) $t: $n new input(s) run under AddressSanitizer: $([ $rc = 0 ] && echo clean || echo "exit $rc")"
+  [ $rc = 0 ] || cat "$log" >> "$(cat "$dir/logs/$t.current")"
+  return $rc
+}
+
 finish_slice() {
-  local pid=$1 rc=$2 t=${running[$1]} log execs seconds
+  local pid=$1 rc=$2 t=${running[$1]} marker=${markers[$1]} log execs seconds
   log=$(cat "$dir/logs/$t.current")
   execs=$(slice_executions "$log")
   seconds=$(($(date +%s) - ${started[$pid]}))
-  add_total "$t" "$execs" "$seconds"
-  unset "running[$pid]" "started[$pid]"
-  echo "$(date +%H:%M:%S) $t: $execs executions in ${seconds}s; total $(total_of "$t" | cut -d' ' -f1)"
-  # A finding: any exit but the normal one and the one after an interruption.
-  if [ "$rc" -ne 0 ] && ! { [ $stopping = 1 ] && grep -q 'run interrupted' "$log"; }; then
+  add_total "$t" "$execs" "$seconds" "$kind"
+  unset "running[$pid]" "started[$pid]" "markers[$pid]"
+  echo "$(date +%H:%M:%S) $t: $execs executions in ${seconds}s ($kind); total $(total_of "$t" | cut -d' ' -f1)"
+  local interrupted=0 suspect=0
+  [ $stopping = 1 ] && grep -q 'run interrupted' "$log" && interrupted=1
+  # A finding: any exit but the normal one and the one after an interruption,
+  # or a new input that fails under AddressSanitizer.
+  [ "$rc" -ne 0 ] && [ $interrupted = 0 ] && suspect=1
+  if [ "$kind" = fast ] && [ $suspect = 0 ]; then
+    check_new_inputs "$t" "$marker" || { rc=$?; suspect=1; }
+  fi
+  if [ $suspect = 1 ]; then
     if ls "$dir/findings/$t-"* > /dev/null 2>&1 || grep -qE 'ERROR|invariant broken' "$log"; then
       found=1
       stopped[$t]=1
@@ -299,3 +360,4 @@ echo "== campaign totals"
 status
 [ $stopping = 1 ] && echo "stopped; run the same command again to go on"
 exit $found
+}

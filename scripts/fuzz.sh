@@ -14,7 +14,8 @@
 # A long campaign on every core, resumable across days: scripts/fuzz-campaign.sh.
 # One process per target, one target at a time: a campaign uses one core.
 # Environment: ZPH_FUZZ_SECONDS (seconds per target), ZPH_FUZZ_BUILD (build
-# folder, default build/fuzz), ZPH_FUZZ_RSS_MB (memory limit per process, 2560).
+# folder, default build/fuzz), ZPH_FUZZ_SANITIZE (the sanitizers of that build,
+# default "address;undefined"), ZPH_FUZZ_RSS_MB (memory limit per process, 2560).
 # New inputs go to <build>/corpus/<target>, findings to <build>/findings/;
 # a finding that is kept belongs in fuzz/regressions/<target>/.
 set -euo pipefail
@@ -34,7 +35,7 @@ while [ $# -gt 0 ]; do
     --build-only) build_only=1 ;;
     --time) seconds=$2; shift ;;
     --runs) runs=$2; shift ;;
-    -h|--help) sed -n '2,20p' "$0"; exit 0 ;;
+    -h|--help) sed -n '2,21p' "$0"; exit 0 ;;
     fuzz_*) targets+=("$1") ;;
     *) echo "fuzz.sh: unknown argument $1" >&2; exit 2 ;;
   esac
@@ -45,6 +46,7 @@ if [ -z "$seconds" ]; then
   if [ $ci = 1 ]; then seconds=${ZPH_FUZZ_SECONDS:-40}; else seconds=${ZPH_FUZZ_SECONDS:-3600}; fi
 fi
 build=${ZPH_FUZZ_BUILD:-$root/build/fuzz}
+sanitize=${ZPH_FUZZ_SANITIZE:-address;undefined}
 rss_mb=${ZPH_FUZZ_RSS_MB:-2560}
 
 
@@ -53,7 +55,7 @@ mkdir -p "$build"
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja \
   -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DZPH_BUILD_FUZZERS=ON -DZPH_BUILD_TESTS=OFF -DZPH_BUILD_BENCHMARKS=OFF \
-  -DZPH_SANITIZE="address;undefined" > "$build.configure.log" 2>&1 \
+  -DZPH_SANITIZE="$sanitize" > "$build.configure.log" 2>&1 \
   || { cat "$build.configure.log"; exit 1; }
 cmake --build "$build" --target zph_fuzzers -j "$(nproc)"
 [ $build_only = 1 ] && exit 0

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QTemporaryDir>
@@ -112,6 +113,8 @@ private slots:
     void readsFromSeveralThreads();
     void refusesMorePixelsThanTheFileHolds_data();
     void refusesMorePixelsThanTheFileHolds();
+    void smallFilesReadFromMemoryAsFromTheFile_data();
+    void smallFilesReadFromMemoryAsFromTheFile();
 
 private:
     QString path(const QString& name) const { return m_dir.filePath(name); }
@@ -652,4 +655,54 @@ void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds()
 }
 
 QTEST_MAIN(tst_ImageDefinition)
+// A file that the first read holds whole is worked on from memory; a larger
+// one through the file. The same picture with bytes appended after its end
+// (which every reader ignores) takes the other way and must read the same.
+void tst_ImageDefinition::smallFilesReadFromMemoryAsFromTheFile_data()
+{
+    QTest::addColumn<QString>("name");
+    int rows = 0;
+    for (const QString& name : qAsConst(m_readable)) {
+        if (QFileInfo(path(name)).size() >= 64 * 1024)
+            continue;
+        QTest::newRow(qPrintable(name)) << name;
+        ++rows;
+    }
+    QVERIFY2(rows >= 5, "too few small photographs to compare the two ways");
+}
+
+void tst_ImageDefinition::smallFilesReadFromMemoryAsFromTheFile()
+{
+    QFETCH(QString, name);
+    QFile original(path(name));
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    QByteArray bytes = original.readAll();
+    bytes.append(QByteArray(64 * 1024, '\0'));
+    const QString padded = path(QStringLiteral("padded-") + name);
+    {
+        QFile out(padded);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        QCOMPARE(out.write(bytes), qint64(bytes.size()));
+        out.close();
+        QVERIFY(out.open(QIODevice::ReadWrite));
+        QVERIFY(out.setFileTime(ModificationTime, QFileDevice::FileModificationTime));
+    }
+
+    std::unique_ptr<ImageDefinition> fromMemory(ImageDefinition::Read(path(name)));
+    std::unique_ptr<ImageDefinition> fromFile(ImageDefinition::Read(padded));
+    QVERIFY(fromMemory);
+    QVERIFY(fromFile);
+    QCOMPARE(fromFile->FocalLength(), fromMemory->FocalLength());
+    QCOMPARE(fromFile->LensFocalLength(), fromMemory->LensFocalLength());
+    QCOMPARE(fromFile->LensType(), fromMemory->LensType());
+    QCOMPARE(fromFile->OrderKey(), fromMemory->OrderKey());
+    QCOMPARE(fromFile->Exposure(), fromMemory->Exposure());
+    QCOMPARE(fromFile->PixelSize(), fromMemory->PixelSize());
+    QCOMPARE(fromFile->Orientation(), fromMemory->Orientation());
+    QCOMPARE(fromFile->Iso(), fromMemory->Iso());
+    QCOMPARE(fromFile->ThumbnailIsEmbedded(), fromMemory->ThumbnailIsEmbedded());
+    QCOMPARE(fromFile->ThumbnailImage(), fromMemory->ThumbnailImage());
+    QVERIFY(!fromMemory->ThumbnailImage().isNull());
+}
+
 #include "tst_ImageDefinition.moc"
