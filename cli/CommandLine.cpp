@@ -63,9 +63,12 @@ QString CommandLine::version()
         << "exiv2 " << QString::fromStdString(Exiv2::versionString()) << '\n'
         << "Hugin's programs:\n";
     const ToolRunner tools;
+    int width = 0;
+    for (const QString& tool : StitchPipeline::programs())
+        width = qMax(width, tool.size() + 2);
     for (const QString& tool : StitchPipeline::programs()) {
         const QString path = tools.program(tool);
-        out << "  " << qSetFieldWidth(14) << left << tool << qSetFieldWidth(0)
+        out << "  " << qSetFieldWidth(width) << left << tool << qSetFieldWidth(0)
             << (path.isEmpty() ? QStringLiteral("not found (Debian package %1)")
                                      .arg(StitchCommand::package(tool))
                                : path)

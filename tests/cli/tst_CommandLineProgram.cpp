@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QLockFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -337,6 +338,14 @@ void tst_CommandLineProgram::noDisplayNeeded()
         QVERIFY(run.out.contains(QStringLiteral("\nQt ")));
         for (const char* tool : { "cpfind", "autooptimiser", "nona", "enblend" })
             QVERIFY2(run.out.contains(QLatin1String(tool)), tool);
+        // One line per program: its name, spaces, then where it is or why not.
+        const QStringList lines = run.out.split(QLatin1Char('\n'));
+        const int first = lines.indexOf(QStringLiteral("Hugin's programs:")) + 1;
+        QVERIFY(first > 0);
+        QVERIFY(lines.size() > first + 8);
+        const QRegularExpression toolLine(QStringLiteral("^  [a-z_]+ +(/|not found)"));
+        for (int i = first; i < lines.size() && !lines.at(i).isEmpty(); ++i)
+            QVERIFY2(toolLine.match(lines.at(i)).hasMatch(), qPrintable(lines.at(i)));
     }
 }
 
