@@ -195,6 +195,16 @@ ImageDefinition* ImageDefinition::Read(
                                << file.size() << "bytes, beyond the limit";
             return refuse(ReadFailure::TooLarge);
         }
+        if (jpegSignature) {
+            const qint64 bound = jpeg.pixelBound(file.size());
+            const qint64 pixels = qint64(def->m_pixelSize.width()) * def->m_pixelSize.height();
+            if (bound >= 0 && pixels > qMax(Thumbnailer::PlausibleAnywayPixels, bound)) {
+                qCWarning(lcImage) << path << "declares" << def->m_pixelSize << "pixels in"
+                                   << file.size() - jpeg.scanStart()
+                                   << "bytes of picture data, more than they can hold";
+                return refuse(ReadFailure::TooLarge);
+            }
+        }
 
         if (options & WithThumbnail) {
             const Thumbnailer::Result thumbnail

@@ -36,6 +36,10 @@ JpegStructure JpegStructure::read(QIODevice& file, const QByteArray& firstChunk)
         const int length = (data()[pos + 2] << 8) | data()[pos + 3];
         if (length < 2)
             return jpeg;
+        // Frame headers 0xC9–0xCB and 0xCD–0xCF code the picture arithmetically.
+        const uchar marker = data()[pos + 1];
+        if (marker >= 0xC9 && marker <= 0xCF && marker != 0xCC)
+            jpeg.m_arithmetic = true;
         if (data()[pos + 1] == 0xDA) {
             const qint64 scanStart = pos + 2 + length;
             if (!have(scanStart))
@@ -78,4 +82,14 @@ bool JpegStructure::isWhole(QIODevice& file) const
         end = begin + 1;
     }
     return false;
+}
+
+qint64 JpegStructure::pixelBound(qint64 fileSize) const
+{
+    if (m_scanStart < 0 || m_arithmetic || fileSize < m_scanStart)
+        return -1;
+    const qint64 pictureBytes = fileSize - m_scanStart;
+    if (pictureBytes > (qint64(1) << 40))
+        return -1;
+    return pictureBytes * 8 * 64;
 }

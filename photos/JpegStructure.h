@@ -38,7 +38,16 @@ public:
     /// appended after the picture is tolerated.
     bool isWhole(QIODevice& file) const;
 
+    /// The most pixels the picture data of a file of `fileSize` bytes can
+    /// describe. Huffman coding spends at least one bit on every 8 × 8 block
+    /// of a frame's first component (its DC difference), so a few bytes of
+    /// picture data cannot hold a large picture whatever the frame header
+    /// declares (the decoder would still zero a buffer of the declared size).
+    /// -1 when there is no such bound: arithmetic coding, or headers cut short.
+    qint64 pixelBound(qint64 fileSize) const;
+
 private:
     QByteArray m_headers;
     qint64 m_scanStart = -1;
+    bool m_arithmetic = false;
 };

@@ -22,7 +22,9 @@ class Thumbnailer
 {
 public:
     /// Declared pixels beyond which a JPEG is not decoded. The decoder shrinks a
-    /// JPEG by 8 while decoding, so this bounds the decode buffer to 64 MiB.
+    /// baseline JPEG by 8 while decoding, so this bounds its decode buffer to
+    /// 64 MiB; a progressive one keeps every block, which is why a JPEG must
+    /// also have picture data enough for what it declares (JpegStructure::pixelBound).
     static constexpr qint64 MaxJpegPixels = qint64(1) << 30;
     /// Other formats are decoded at full size first: 128 Mpx, 512 MiB at 32 bits.
     static constexpr qint64 MaxOtherPixels = qint64(1) << 27;

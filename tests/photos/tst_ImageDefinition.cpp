@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImageWriter>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QTemporaryDir>
@@ -618,6 +619,50 @@ void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds_data()
     flat.fill(qRgb(90, 140, 200));
     flat.save(&buffer, "png");
     QTest::newRow("flat PNG of 4 Mpx") << png << "png" << true << QSize(2000, 2000);
+
+    // JPEGs written by Qt. A flat picture is the most compressed a JPEG gets,
+    // and still spends at least a bit on every 8 x 8 block.
+    const auto jpeg = [](const QImage& picture, bool progressive, bool optimised) {
+        QByteArray bytes;
+        QBuffer out(&bytes);
+        out.open(QIODevice::WriteOnly);
+        QImageWriter writer(&out, "jpeg");
+        writer.setProgressiveScanWrite(progressive);
+        writer.setOptimizedWrite(optimised);
+        writer.write(picture);
+        return bytes;
+    };
+    // The same JPEG with its frame header declaring `size` instead.
+    const auto declaring = [](QByteArray bytes, QSize size) {
+        for (int pos = 2; pos + 9 < bytes.size();) {
+            const uchar marker = uchar(bytes[pos + 1]);
+            if (marker == 0xC0 || marker == 0xC2) {
+                putBigEndian(bytes.data() + pos + 5, quint32(size.height()), 2);
+                putBigEndian(bytes.data() + pos + 7, quint32(size.width()), 2);
+                return bytes;
+            }
+            pos += 2 + ((uchar(bytes[pos + 2]) << 8) | uchar(bytes[pos + 3]));
+        }
+        return QByteArray();
+    };
+    QTest::newRow("flat JPEG of 4 Mpx") << jpeg(flat, false, false) << "jpg" << true
+                                        << QSize(2000, 2000);
+    QTest::newRow("flat JPEG of 4 Mpx, optimised tables")
+        << jpeg(flat, false, true) << "jpg" << true << QSize(2000, 2000);
+    QTest::newRow("flat progressive JPEG of 4 Mpx")
+        << jpeg(flat, true, true) << "jpg" << true << QSize(2000, 2000);
+    // A picture of 64 x 64 whose header declares 16 Mpx: the decoder would
+    // zero buffers for 16 Mpx (all of it, for a progressive one) from a few
+    // hundred bytes of picture data.
+    QImage small = flat.scaled(64, 64);
+    QTest::newRow("JPEG of 64 x 64 declaring 16 Mpx")
+        << declaring(jpeg(small, false, false), QSize(4000, 4000)) << "jpg" << false << QSize();
+    QTest::newRow("progressive JPEG of 64 x 64 declaring 16 Mpx")
+        << declaring(jpeg(small, true, false), QSize(4000, 4000)) << "jpg" << false << QSize();
+    // Up to a megapixel is read whatever the picture data holds.
+    QTest::newRow("JPEG of 64 x 64 declaring 1 Mpx")
+        << declaring(jpeg(small, false, false), QSize(1024, 1024)) << "jpg" << true
+        << QSize(1024, 1024);
 }
 
 void tst_ImageDefinition::refusesMorePixelsThanTheFileHolds()
