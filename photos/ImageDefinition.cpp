@@ -188,16 +188,14 @@ ImageDefinition* ImageDefinition::Read(
             qCWarning(lcImage) << path << "has no readable picture size";
             return refuse(ReadFailure::NotAPicture);
         }
-        if (!format.isEmpty()
-            && qint64(def->m_pixelSize.width()) * def->m_pixelSize.height()
-                > Thumbnailer::maxPixels(format, file.size())) {
+        const qint64 pixels = qint64(def->m_pixelSize.width()) * def->m_pixelSize.height();
+        if (!format.isEmpty() && pixels > Thumbnailer::maxPixels(format, file.size())) {
             qCWarning(lcImage) << path << "declares" << def->m_pixelSize << "pixels in"
                                << file.size() << "bytes, beyond the limit";
             return refuse(ReadFailure::TooLarge);
         }
         if (jpegSignature) {
             const qint64 bound = jpeg.pixelBound(file.size());
-            const qint64 pixels = qint64(def->m_pixelSize.width()) * def->m_pixelSize.height();
             if (bound >= 0 && pixels > qMax(Thumbnailer::PlausibleAnywayPixels, bound)) {
                 qCWarning(lcImage) << path << "declares" << def->m_pixelSize << "pixels in"
                                    << file.size() - jpeg.scanStart()

@@ -40,7 +40,7 @@ JpegStructure JpegStructure::read(QIODevice& file, const QByteArray& firstChunk)
         const uchar marker = data()[pos + 1];
         if (marker >= 0xC9 && marker <= 0xCF && marker != 0xCC)
             jpeg.m_arithmetic = true;
-        if (data()[pos + 1] == 0xDA) {
+        if (marker == 0xDA) {
             const qint64 scanStart = pos + 2 + length;
             if (!have(scanStart))
                 return jpeg;
